@@ -1,0 +1,7 @@
+#include "Records/ICategoryMapping.h"
+
+namespace tarnnuq {
+
+ICategoryMapping::~ICategoryMapping() = default;
+
+} // namespace tarnnuq

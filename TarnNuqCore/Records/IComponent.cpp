@@ -1,0 +1,7 @@
+#include "Records/IComponent.h"
+
+namespace tarnnuq {
+
+IComponent::~IComponent() = default;
+
+} // namespace tarnnuq

@@ -1,0 +1,7 @@
+#include "Records/IDetailedProjectComponent.h"
+
+namespace tarnnuq {
+
+IDetailedProjectComponent::~IDetailedProjectComponent() = default;
+
+} // namespace tarnnuq

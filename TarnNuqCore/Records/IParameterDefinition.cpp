@@ -1,0 +1,7 @@
+#include "Records/IParameterDefinition.h"
+
+namespace tarnnuq {
+
+IParameterDefinition::~IParameterDefinition() = default;
+
+} // namespace tarnnuq

@@ -1,0 +1,7 @@
+#include "Records/IProjectComponent.h"
+
+namespace tarnnuq {
+
+IProjectComponent::~IProjectComponent() = default;
+
+} // namespace tarnnuq

@@ -1,0 +1,7 @@
+#include "Records/ProjectComponentExistingCheck.h"
+
+namespace tarnnuq {
+
+ProjectComponentExistingCheck::~ProjectComponentExistingCheck() = default;
+
+} // namespace tarnnuq
