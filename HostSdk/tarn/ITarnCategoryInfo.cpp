@@ -1,0 +1,7 @@
+#include "tarn/ITarnCategoryInfo.h"
+
+namespace tarn {
+
+ITarnCategoryInfo::~ITarnCategoryInfo() = default;
+
+} // namespace tarn

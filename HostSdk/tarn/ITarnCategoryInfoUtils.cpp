@@ -1,0 +1,7 @@
+#include "tarn/ITarnCategoryInfoUtils.h"
+
+namespace tarn {
+
+ITarnCategoryInfoUtils::~ITarnCategoryInfoUtils() = default;
+
+} // namespace tarn

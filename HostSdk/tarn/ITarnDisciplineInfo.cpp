@@ -1,0 +1,7 @@
+#include "tarn/ITarnDisciplineInfo.h"
+
+namespace tarn {
+
+ITarnDisciplineInfo::~ITarnDisciplineInfo() = default;
+
+} // namespace tarn

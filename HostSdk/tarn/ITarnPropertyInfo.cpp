@@ -1,0 +1,7 @@
+#include "tarn/ITarnPropertyInfo.h"
+
+namespace tarn {
+
+ITarnPropertyInfo::~ITarnPropertyInfo() = default;
+
+} // namespace tarn

@@ -1,0 +1,7 @@
+#include "zept/IDocument.h"
+
+namespace zept {
+
+IDocument::~IDocument() = default;
+
+} // namespace zept

@@ -1,0 +1,7 @@
+#include "zept/IDocumentEventArgs.h"
+
+namespace zept {
+
+IDocumentEventArgs::~IDocumentEventArgs() = default;
+
+} // namespace zept

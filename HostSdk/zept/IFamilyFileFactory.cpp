@@ -1,0 +1,7 @@
+#include "zept/IFamilyFileFactory.h"
+
+namespace zept {
+
+IFamilyFileFactory::~IFamilyFileFactory() = default;
+
+} // namespace zept

@@ -1,0 +1,7 @@
+#include "zept/IFamilyParameter.h"
+
+namespace zept {
+
+IFamilyParameter::~IFamilyParameter() = default;
+
+} // namespace zept

@@ -1,0 +1,7 @@
+#include "zept/IFamilyParameterDefinition.h"
+
+namespace zept {
+
+IFamilyParameterDefinition::~IFamilyParameterDefinition() = default;
+
+} // namespace zept

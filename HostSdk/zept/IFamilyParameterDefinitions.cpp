@@ -1,0 +1,7 @@
+#include "zept/IFamilyParameterDefinitions.h"
+
+namespace zept {
+
+IFamilyParameterDefinitions::~IFamilyParameterDefinitions() = default;
+
+} // namespace zept

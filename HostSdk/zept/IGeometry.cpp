@@ -1,0 +1,7 @@
+#include "zept/IGeometry.h"
+
+namespace zept {
+
+IGeometry::~IGeometry() = default;
+
+} // namespace zept

@@ -1,0 +1,7 @@
+#include "zept/IUiDocument.h"
+
+namespace zept {
+
+IUiDocument::~IUiDocument() = default;
+
+} // namespace zept
