@@ -3,12 +3,16 @@ include_guard(GLOBAL)
 include(GenerateExportHeader)
 include(GoogleTest)
 
-# tarnnuq_add_shared_library(<target> ALIAS <TarnNuq::Name> SOURCES ... HEADERS ... LINK ...)
+# tarnnuq_add_shared_library(<target> ALIAS <TarnNuq::Name> SOURCES ... HEADERS ... LINK ... [PACKAGE <name>])
 #
 # An exported, installed shared library with hidden visibility. HEADERS are public and installed below
-# include/tarnnuq with their folders; the export header <target>Export.h is generated.
+# include/tarnnuq with their folders; the export header <target>Export.h is generated. PACKAGE is the CMake package
+# that brings it to others, by default TarnNuq (cmake/TarnNuqPackage.cmake).
 function(tarnnuq_add_shared_library target)
-    cmake_parse_arguments(arg "" "ALIAS" "SOURCES;HEADERS;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "ALIAS;PACKAGE" "SOURCES;HEADERS;LINK" ${ARGN})
+    if(NOT arg_PACKAGE)
+        set(arg_PACKAGE TarnNuq)
+    endif()
     add_library(${target} SHARED ${arg_SOURCES} ${arg_HEADERS})
     add_library(${arg_ALIAS} ALIAS ${target})
     string(REPLACE "TarnNuq::" "" export_name "${arg_ALIAS}")
@@ -17,6 +21,7 @@ function(tarnnuq_add_shared_library target)
         VERSION ${PROJECT_VERSION}
         SOVERSION 0
         CXX_EXTENSIONS OFF
+        INSTALL_RPATH "$ORIGIN"
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
     string(TOUPPER ${target} upper)
@@ -29,16 +34,17 @@ function(tarnnuq_add_shared_library target)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PUBLIC ${arg_LINK} PRIVATE $<BUILD_INTERFACE:tarnnuq_build_settings>)
 
-    install(TARGETS ${target} EXPORT TarnNuqTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    install(TARGETS ${target} EXPORT ${arg_PACKAGE}Targets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libraries NAMELINK_COMPONENT sdk
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT libraries
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT sdk)
     foreach(header IN LISTS arg_HEADERS)
         get_filename_component(folder "${header}" DIRECTORY)
-        install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/tarnnuq/${target}/${folder}")
+        install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/tarnnuq/${target}/${folder}"
+            COMPONENT sdk)
     endforeach()
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/include/${target}Export.h"
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/tarnnuq/${target}")
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/tarnnuq/${target}" COMPONENT sdk)
     set_property(GLOBAL APPEND PROPERTY TARNNUQ_PUBLIC_LIBRARIES ${target})
 endfunction()
 
@@ -63,7 +69,7 @@ function(tarnnuq_add_program name)
         BUILD_RPATH_USE_ORIGIN ON
         INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
     target_link_libraries(${name} PRIVATE ${arg_LINK} tarnnuq_build_settings)
-    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
 endfunction()
 
 # tarnnuq_add_test(NAME <name> SOURCES ... LIBRARIES ... [ENVIRONMENT k=v ...] [TIMEOUT s])
