@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Application/HostDiagnosis.h"
+#include "Application/StandaloneHostOptions.h"
+
+#include <memory>
+
+namespace standalone {
+
+class AccountService;
+class HostLogger;
+class SettingsStore;
+
+/// A real host for running the library outside a modeller: logger, debug warnings, application service, user
+/// service, thumbnail paths and the environment managers, put into the slot table of the process.
+///
+/// Owns all of them. The constructor installs them; the destructor takes them out again (unless another host has
+/// been installed since) and flushes the log. The library's services keep no pointers to host objects, but they
+/// copy what they need at first use: make the host before the first of them and keep it until the event loop has
+/// ended.
+///
+/// REQUIRES: a QCoreApplication, unless the options give the program's folder. Construct and destroy on the main
+/// thread; the installed objects may then be used from every thread.
+///
+/// Nothing on disk stops the construction: faults are logged and told by Diagnose.
+class StandaloneHost
+{
+public:
+    explicit StandaloneHost(const StandaloneHostOptions& options);
+    ~StandaloneHost();
+    StandaloneHost(const StandaloneHost&) = delete;
+    StandaloneHost& operator=(const StandaloneHost&) = delete;
+
+    SettingsStore& Settings();
+    const AccountService& Accounts() const;
+    HostLogger& Logger();
+
+    /// What this host found and where, as it stands now; reads the token sources anew.
+    HostDiagnosis Diagnose() const;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace standalone
