@@ -1,0 +1,234 @@
+#include "Requests/RequestBase.h"
+
+#include "Errors/AddressText.h"
+#include "Requests/HttpChannel.h"
+#include "Requests/ReplyDiagnosis.h"
+
+#include <QHostAddress>
+#include <QNetworkRequest>
+#include <QSslSocket>
+
+#include <algorithm>
+
+namespace componentlibrary {
+namespace {
+
+constexpr int kLongestRedirectChain = 5;
+
+bool IsSameOrigin(const QUrl& one, const QUrl& other)
+{
+    const auto port = [](const QUrl& url) { return url.port(url.scheme() == QLatin1String("https") ? 443 : 80); };
+    return one.scheme() == other.scheme() && one.host() == other.host() && port(one) == port(other);
+}
+
+bool IsRedirect(int status)
+{
+    return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
+}
+
+bool IsLoopback(const QUrl& url)
+{
+    return url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
+}
+
+bool MayFollow(const QUrl& from, const QUrl& to)
+{
+    const bool isWeb = to.scheme() == QLatin1String("http") || to.scheme() == QLatin1String("https");
+    const bool losesTls = from.scheme() == QLatin1String("https") && to.scheme() != QLatin1String("https");
+    return to.isValid() && !to.host().isEmpty() && isWeb && !losesTls;
+}
+
+} // namespace
+
+RequestBase::RequestBase(HttpChannel& channel, Operation operation, const QUrl& address, QObject* parent)
+    : QObject(parent), m_channel(&channel), m_operation(operation), m_address(address), m_target(address)
+{
+    m_timeLimit.setSingleShot(true);
+    m_retry.setSingleShot(true);
+    m_retry.setTimerType(Qt::PreciseTimer);
+    connect(&m_timeLimit, &QTimer::timeout, this, &RequestBase::OnTimeLimit);
+    connect(&m_retry, &QTimer::timeout, this, &RequestBase::EnterQueue);
+    connect(&channel, &HttpChannel::Closing, this, &RequestBase::Cancel);
+}
+
+RequestBase::~RequestBase()
+{
+    DropReply();
+}
+
+void RequestBase::Start()
+{
+    if (m_state != State::Idle)
+        return;
+    m_state = State::Waiting;
+    QTimer::singleShot(0, this, &RequestBase::Begin);
+}
+
+void RequestBase::Cancel()
+{
+    if (HasEnded())
+        return;
+    End(MakeError(ErrorCode::Cancelled));
+}
+
+ErrorInfo RequestBase::MakeError(ErrorCode code) const
+{
+    ErrorInfo error;
+    error.code = code;
+    error.operation = m_operation;
+    error.address = AddressText(m_address);
+    error.tries = m_tries;
+    return error;
+}
+
+void RequestBase::Begin()
+{
+    if (HasEnded())
+        return;
+    if (m_channel->Settings().isOffline)
+        return End(MakeError(ErrorCode::Offline));
+    if (m_refusal != ErrorCode::None)
+        return End(MakeError(m_refusal));
+    if (m_address.scheme() == QLatin1String("https") && !QSslSocket::supportsSsl())
+        return End(MakeError(ErrorCode::TlsMissing));
+    EnterQueue();
+}
+
+void RequestBase::EnterQueue()
+{
+    m_ticket = m_channel->Queue().Enter(m_target, [this] { Send(); });
+}
+
+QNetworkRequest RequestBase::MakeNetworkRequest() const
+{
+    const ChannelSettings& settings = m_channel->Settings();
+    QNetworkRequest request(m_target);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    request.setRawHeader("Accept", "application/json");
+    request.setRawHeader("Accept-Language", settings.language);
+    if (IsLoopback(m_target))
+        request.setRawHeader("Accept-Encoding", "identity"); // packing costs more than it saves on one machine
+    if (IsSameOrigin(m_address, m_target))
+        settings.authorize(request);
+    return request;
+}
+
+void RequestBase::Send()
+{
+    m_state = State::Running;
+    ++m_tries;
+    m_tlsErrors.clear();
+    Connect(m_channel->Manager().get(MakeNetworkRequest()));
+    m_timeLimit.start(m_channel->Settings().timeLimit);
+}
+
+void RequestBase::Connect(QNetworkReply* reply)
+{
+    m_reply = reply;
+    connect(reply, &QNetworkReply::finished, this, &RequestBase::OnReplyFinished);
+    connect(reply, &QNetworkReply::downloadProgress, this, &RequestBase::OnProgress);
+    connect(reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) { m_tlsErrors = errors; });
+}
+
+void RequestBase::OnProgress(qint64 received, qint64 total)
+{
+    if (received > m_channel->Settings().largestBody || total > m_channel->Settings().largestBody)
+        return End(MakeError(ErrorCode::ServerTooLarge));
+    emit Progressed(received, total);
+}
+
+void RequestBase::OnTimeLimit()
+{
+    End(MakeError(ErrorCode::NetworkTimeout));
+}
+
+void RequestBase::OnReplyFinished()
+{
+    m_timeLimit.stop();
+    m_ticket.Release();
+    if (m_reply != nullptr)
+        Judge(*m_reply);
+}
+
+void RequestBase::Judge(QNetworkReply& reply)
+{
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (reply.error() == QNetworkReply::NoError && IsRedirect(status))
+        return FollowRedirect(reply);
+    ErrorInfo error = DiagnoseReply(reply, m_tlsErrors);
+    if (!error.IsError())
+        error = ReadResult(reply);
+    error.operation = m_operation;
+    error.address = AddressText(m_target);
+    error.tries = m_tries;
+    if (IsPassing(error) && RetryLater(error))
+        return;
+    End(std::move(error));
+}
+
+void RequestBase::FollowRedirect(const QNetworkReply& reply)
+{
+    const QByteArray location = reply.rawHeader("Location").trimmed();
+    const QUrl target = m_target.resolved(QUrl::fromEncoded(location, QUrl::StrictMode));
+    if (location.isEmpty() || !MayFollow(m_target, target)) {
+        ErrorInfo error = MakeError(ErrorCode::ServerRedirectRefused);
+        error.httpStatus = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        return End(std::move(error));
+    }
+    if (++m_redirects > kLongestRedirectChain)
+        return End(MakeError(ErrorCode::ServerRedirectLoop));
+    DropReply();
+    m_target = target;
+    m_state = State::Waiting;
+    --m_tries; // a redirect answered the question where to ask; it is no failed try
+    EnterQueue();
+}
+
+bool RequestBase::RetryLater(const ErrorInfo& error)
+{
+    const ChannelSettings& settings = m_channel->Settings();
+    if (m_tries >= settings.retry.tries)
+        return false;
+    qint64 wait = settings.retry.DelayBefore(m_tries + 1, settings.dice());
+    if (error.retryAt.isValid())
+        wait = std::max(wait, QDateTime::currentDateTimeUtc().msecsTo(error.retryAt) + 1);
+    if (wait > settings.retry.longestPromise)
+        return false;
+    DropReply();
+    m_state = State::Waiting;
+    m_redirects = 0;
+    m_target = m_address;
+    m_retry.start(static_cast<int>(wait));
+    emit Retrying(m_tries + 1, static_cast<int>(wait));
+    return true;
+}
+
+void RequestBase::DropReply()
+{
+    QNetworkReply* reply = m_reply;
+    m_reply = nullptr;
+    if (reply == nullptr)
+        return;
+    reply->disconnect(this);
+    if (reply->isRunning())
+        reply->abort();
+    reply->deleteLater();
+}
+
+void RequestBase::End(ErrorInfo error)
+{
+    if (HasEnded())
+        return;
+    m_timeLimit.stop();
+    m_retry.stop();
+    m_ticket.Release();
+    DropReply();
+    m_error = std::move(error);
+    if (!m_error.IsError())
+        m_state = State::Succeeded;
+    else
+        m_state = m_error.code == ErrorCode::Cancelled ? State::Cancelled : State::Failed;
+    emit Finished();
+}
+
+} // namespace componentlibrary
