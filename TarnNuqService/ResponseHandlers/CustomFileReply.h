@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ResponseHandlers/CustomReplyBase.h"
+
+namespace tarnnuq {
+
+/// A pending reply whose body is saved to a file.
+///
+/// A transport or HTTP error leaves the file untouched; a file that was written in part stays as it is.
+class TARNNUQSERVICE_EXPORT CustomFileReply : public CustomReplyBase
+{
+public:
+    /// @param parent the Qt parent; null leaves the ownership with the caller
+    explicit CustomFileReply(QObject* parent = nullptr);
+    ~CustomFileReply() override;
+
+    /// @param path where the body is saved; an existing file is replaced
+    void SetSaveFilePath(const std::wstring& path);
+
+    /// @return a copy of the path
+    std::wstring GetSaveFilePath() const;
+
+protected:
+    void PrivateHandleReply() override;
+
+private:
+    bool ReportRequestError();
+    void SaveBody();
+
+    std::wstring m_saveFilePath;
+};
+
+} // namespace tarnnuq

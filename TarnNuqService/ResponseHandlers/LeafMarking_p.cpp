@@ -1,0 +1,70 @@
+#include "ResponseHandlers/LeafMarking_p.h"
+
+#include "Records/ICategory.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tarnnuq {
+
+namespace {
+
+/// A set of texts in one block of memory (open addressing, at most half full): half the time of a node-based set
+/// and two allocations instead of one for each text.
+class TextSet
+{
+public:
+    explicit TextSet(std::size_t count) : m_slots(TableSize(count)), m_used(m_slots.size()) {}
+
+    void Insert(std::wstring_view text)
+    {
+        const std::size_t slot = Find(text);
+        m_slots[slot] = text;
+        m_used[slot] = true;
+    }
+
+    bool Contains(std::wstring_view text) const { return m_used[Find(text)]; }
+
+private:
+    static std::size_t TableSize(std::size_t count)
+    {
+        std::size_t size = 16;
+        while (size < 2 * count) {
+            size *= 2;
+        }
+        return size;
+    }
+
+    std::size_t Find(std::wstring_view text) const
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t slot = std::hash<std::wstring_view>()(text) & mask;
+        while (m_used[slot] && m_slots[slot] != text) {
+            slot = (slot + 1) & mask;
+        }
+        return slot;
+    }
+
+    std::vector<std::wstring_view> m_slots;
+    std::vector<bool> m_used;
+};
+
+} // namespace
+
+void MarkLeaves(const RecordList<ICategory>& categories)
+{
+    TextSet parentCodes(categories.size());
+    for (const auto& category : categories) {
+        if (category) {
+            parentCodes.Insert(category->ParentCode);
+        }
+    }
+    for (const auto& category : categories) {
+        if (!category) {
+            return;
+        }
+        category->SetIsLeaf(!parentCodes.Contains(category->Code));
+    }
+}
+
+} // namespace tarnnuq

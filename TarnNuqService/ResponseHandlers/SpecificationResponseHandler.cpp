@@ -1,0 +1,75 @@
+#include "ResponseHandlers/SpecificationResponseHandler.h"
+
+#include "Common/DebugWarning.h"
+#include "Common/MakeRecord.h"
+#include "EnvSvcs/EnvService.h"
+#include "Records/IParameter.h"
+#include "Records/IParameterDefinition.h"
+#include "Records/ISpecification.h"
+#include "ResponseHandlers/JsonReading_p.h"
+#include "ResponseHandlers/ParameterDefinitionReader_p.h"
+#include "ResponseHandlers/ParameterValues_p.h"
+
+#include <QJsonArray>
+
+namespace tarnnuq {
+
+namespace {
+
+constexpr WarningSource Source{
+    "ResponseHandlers/SpecificationResponseHandler.cpp", "tarnnuq::SpecificationResponseHandler::HandleData"};
+
+void ReadParameters(const QJsonArray& array, ISpecification& specification)
+{
+    for (const QJsonValue& element : array) {
+        auto spParameterDefinition = MakeRecord<IParameterDefinition>();
+        if (!spParameterDefinition) {
+            WarnNull(Source, __LINE__, L"spParameterDefinition 为空");
+            continue;
+        }
+        ReadParameterDefinition(element.toObject(), *spParameterDefinition);
+        auto spParameter = MakeRecord<IParameter>();
+        if (!spParameter) {
+            WarnNull(Source, __LINE__, L"spParameter 为空");
+            continue;
+        }
+        spParameter->Definition = spParameterDefinition;
+        specification.Parameters[spParameterDefinition->Name] = std::move(spParameter);
+    }
+}
+
+} // namespace
+
+SpecificationResponseHandler::SpecificationResponseHandler()
+    : m_staticEndPoint(QString::fromStdWString(EnvService::GetPyxStaticEndPoint()))
+{
+}
+
+SpecificationResponseHandler::~SpecificationResponseHandler() = default;
+
+SpecificationResponseHandler::SpecificationResponseHandler(const SpecificationResponseHandler& other) = default;
+
+SpecificationResponseHandler& SpecificationResponseHandler::operator=(
+    const SpecificationResponseHandler& other) = default;
+
+void SpecificationResponseHandler::HandleData(const QJsonValue& data)
+{
+    const QJsonObject object = data.toObject();
+    if (object.isEmpty()) {
+        m_result = nullptr;
+        return;
+    }
+    m_result = MakeRecord<ISpecification>();
+    if (!m_result) {
+        WarnNull(Source, __LINE__, L"m_result 为空");
+        return;
+    }
+    ReadParameters(object.value(QLatin1String("parameters")).toArray(), *m_result);
+    const QJsonObject familyType = object.value(QLatin1String("familyType")).toObject();
+    m_result->Name = TextMember(familyType, QLatin1String("name"));
+    if (!m_result->Parameters.empty()) {
+        ApplyParameterValues(familyType.value(QLatin1String("parameterValues")).toArray(), m_result->Parameters);
+    }
+}
+
+} // namespace tarnnuq
