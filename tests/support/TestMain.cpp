@@ -1,4 +1,5 @@
 #include <QCoreApplication>
+#include <QEvent>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -13,6 +14,21 @@ void UseHomeFolder(const QString& home)
     }
 }
 
+/// Deletes after each test what was left to the event loop, so that nothing outlives its test.
+class DeferredDeletion : public ::testing::EmptyTestEventListener
+{
+    void OnTestEnd(const ::testing::TestInfo&) override
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+};
+
+int RunTests()
+{
+    ::testing::UnitTest::GetInstance()->listeners().Append(new DeferredDeletion);
+    return RUN_ALL_TESTS();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -24,5 +40,5 @@ int main(int argc, char** argv)
     const QTemporaryDir home;
     UseHomeFolder(home.path());
     const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    return RunTests();
 }
