@@ -1,0 +1,6 @@
+#include "Program/Program.h"
+
+int main(int argc, char** argv)
+{
+    return nuqcloud::RunProgram(argc, argv);
+}
