@@ -40,6 +40,8 @@ public:
     EnvService& operator=(const EnvService&) = delete;
 
 private:
+    friend class EnvServiceAccess;
+
     EnvService();
     ~EnvService();
 

@@ -26,7 +26,7 @@ std::vector<std::wstring> ReadNames(const QJsonArray& array)
     std::vector<std::wstring> names;
     names.reserve(static_cast<std::size_t>(array.size()));
     for (const QJsonValue& name : array) {
-        names.push_back(name.toString().toStdWString());
+        names.push_back(WideText(name.toString()));
     }
     return names;
 }

@@ -22,7 +22,7 @@ void ReadFamilyTypeNames(const QJsonArray& array, IDetailedProjectComponent& com
 {
     component.FamilyTypeNames.reserve(static_cast<std::size_t>(array.size()));
     for (const QJsonValue& name : array) {
-        component.FamilyTypeNames.push_back(name.toString().toStdWString());
+        component.FamilyTypeNames.push_back(WideText(name.toString()));
     }
 }
 

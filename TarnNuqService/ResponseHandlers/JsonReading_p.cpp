@@ -24,18 +24,37 @@ std::wstring DecimalText(std::int64_t number)
     return std::wstring(digits, end);
 }
 
+// Without a surrogate each UTF-16 unit is one character. A loop without an early exit, so that it is vectorized.
+bool HasSurrogates(const ushort* text, int size)
+{
+    unsigned found = 0;
+    for (int i = 0; i < size; ++i) {
+        found |= static_cast<unsigned>((text[i] & 0xF800U) == 0xD800U);
+    }
+    return found != 0;
+}
+
 } // namespace
+
+std::wstring WideText(const QString& text)
+{
+    const ushort* utf16 = text.utf16();
+    if (sizeof(wchar_t) != sizeof(ushort) && HasSurrogates(utf16, text.size())) {
+        return text.toStdWString();
+    }
+    return std::wstring(utf16, utf16 + text.size());
+}
 
 std::wstring IdText(const QJsonValue& value)
 {
     if (!value.isDouble()) {
-        return value.toString().toStdWString();
+        return WideText(value.toString());
     }
     const double number = value.toDouble();
     if (IsExactInteger(number)) {
         return DecimalText(static_cast<std::int64_t>(number));
     }
-    return QString::number(number, 'f', 0).toStdWString();
+    return WideText(QString::number(number, 'f', 0));
 }
 
 } // namespace tarnnuq

@@ -7,10 +7,13 @@
 
 namespace tarnnuq {
 
+/// A text as the wide text of this platform: what QString::toStdWString() gives, in one pass over the text.
+std::wstring WideText(const QString& text);
+
 /// A text member; empty when it is missing or no text.
 inline std::wstring TextMember(const QJsonObject& object, QLatin1String key)
 {
-    return object.value(key).toString().toStdWString();
+    return WideText(object.value(key).toString());
 }
 
 /// A whole-number member; 0 when it is missing, no number, not whole or beyond 32 bits.

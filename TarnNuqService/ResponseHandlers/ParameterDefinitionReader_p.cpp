@@ -11,7 +11,7 @@ void ReadValues(const QJsonObject& object, std::map<std::wstring, std::wstring>&
 {
     values.clear();
     for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
-        values.insert_or_assign(values.end(), member.key().toStdWString(), member.value().toString().toStdWString());
+        values.insert_or_assign(values.end(), WideText(member.key()), WideText(member.value().toString()));
     }
 }
 

@@ -68,7 +68,7 @@ void SpecificationResponseHandler::HandleData(const QJsonValue& data)
     const QJsonObject familyType = object.value(QLatin1String("familyType")).toObject();
     m_result->Name = TextMember(familyType, QLatin1String("name"));
     if (!m_result->Parameters.empty()) {
-        ApplyParameterValues(familyType.value(QLatin1String("parameterValues")).toArray(), m_result->Parameters);
+        ApplyParameterValues(familyType.value(QLatin1String("parameterValues")).toArray(), {}, m_result->Parameters);
     }
 }
 

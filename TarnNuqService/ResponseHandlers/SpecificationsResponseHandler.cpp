@@ -3,12 +3,9 @@
 #include "Common/DebugWarning.h"
 #include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
-#include "Records/IParameter.h"
-#include "Records/IParameterDefinition.h"
 #include "Records/ISpecification.h"
 #include "ResponseHandlers/JsonReading_p.h"
-#include "ResponseHandlers/ParameterDefinitionReader_p.h"
-#include "ResponseHandlers/ParameterValues_p.h"
+#include "ResponseHandlers/SharedDefinitions_p.h"
 
 #include <QJsonArray>
 
@@ -18,37 +15,6 @@ namespace {
 
 constexpr WarningSource Source{
     "ResponseHandlers/SpecificationsResponseHandler.cpp", "tarnnuq::SpecificationsResponseHandler::HandleData"};
-
-using DefinitionList = std::vector<std::shared_ptr<IParameterDefinition>>;
-
-DefinitionList ReadDefinitions(const QJsonArray& array)
-{
-    DefinitionList definitions;
-    definitions.reserve(static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        auto spParameterDefinition = MakeRecord<IParameterDefinition>();
-        if (!spParameterDefinition) {
-            WarnNull(Source, __LINE__, L"spParameterDefinition 为空");
-            continue;
-        }
-        ReadParameterDefinition(element.toObject(), *spParameterDefinition);
-        definitions.push_back(std::move(spParameterDefinition));
-    }
-    return definitions;
-}
-
-void AddParameters(const DefinitionList& definitions, ISpecification& specification)
-{
-    for (const auto& spDefinition : definitions) {
-        auto spParameter = MakeRecord<IParameter>();
-        if (!spParameter) {
-            WarnNull(Source, __LINE__, L"spParameter 为空");
-            continue;
-        }
-        spParameter->Definition = spDefinition;
-        specification.Parameters[spDefinition->Name] = std::move(spParameter);
-    }
-}
 
 } // namespace
 
@@ -71,7 +37,7 @@ void SpecificationsResponseHandler::HandleData(const QJsonValue& data)
     if (object.isEmpty()) {
         return;
     }
-    const DefinitionList definitions = ReadDefinitions(object.value(QLatin1String("parameters")).toArray());
+    const SharedDefinitions definitions(object.value(QLatin1String("parameters")).toArray(), Source);
     const QJsonArray familyTypes = object.value(QLatin1String("familyTypes")).toArray();
     m_result.reserve(static_cast<std::size_t>(familyTypes.size()));
     for (const QJsonValue& element : familyTypes) {
@@ -82,8 +48,9 @@ void SpecificationsResponseHandler::HandleData(const QJsonValue& data)
         }
         const QJsonObject familyType = element.toObject();
         spSpecification->Name = TextMember(familyType, QLatin1String("name"));
-        AddParameters(definitions, *spSpecification);
-        ApplyParameterValues(familyType.value(QLatin1String("parameterValues")).toArray(), spSpecification->Parameters);
+        const std::vector<NamedParameter> named = definitions.MakeParameters(spSpecification->Parameters);
+        ApplyParameterValues(
+            familyType.value(QLatin1String("parameterValues")).toArray(), named, spSpecification->Parameters);
         m_result.push_back(std::move(spSpecification));
     }
 }

@@ -1,5 +1,7 @@
 #include "ResponseHandlers/ThumbnailUrl_p.h"
 
+#include <algorithm>
+
 namespace tarnnuq {
 
 ThumbnailUrl::ThumbnailUrl(const QString& staticEndPoint) : m_staticEndPoint(staticEndPoint)
@@ -19,10 +21,11 @@ std::wstring ThumbnailUrl::Join(const QJsonValue& path) const
         // Filled one after the other on purpose: a marker inside the endpoint is filled, too.
         return QStringLiteral("%1/%2").arg(m_staticEndPoint).arg(text).toStdWString();
     }
-    const std::wstring wideText = text.toStdWString();
-    std::wstring url;
-    url.reserve(m_prefix.size() + wideText.size());
-    return url.append(m_prefix).append(wideText);
+    const auto prefixSize = m_prefix.size();
+    std::wstring url(prefixSize + static_cast<std::size_t>(text.size()), L'\0');
+    std::copy(m_prefix.begin(), m_prefix.end(), url.begin());
+    url.resize(prefixSize + static_cast<std::size_t>(text.toWCharArray(&url[prefixSize])));
+    return url;
 }
 
 } // namespace tarnnuq

@@ -1,0 +1,105 @@
+// One handling of one body, for callgrind to count: instruction-counts WHAT COUNT base|handle
+// Prints the allocations of that one call as JSON. See run-benchmarks.
+#include "Records/ICategory.h"
+#include "Records/ICategoryMapping.h"
+#include "Records/ICategoryProperty.h"
+#include "Records/IDetailedProjectComponent.h"
+#include "Records/ILegend.h"
+#include "Records/ISpecification.h"
+#include "ResponseHandlers/ResponseHandlerRegistry.h"
+#include "support/Bodies.h"
+#include "support/MemoryReply.h"
+#include "support/QuietHost.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <functional>
+#include <map>
+#include <string>
+#include <valgrind/callgrind.h>
+
+namespace {
+
+long long g_allocations = 0; // every malloc of the process, see below
+
+using tarnnuq::RecordList;
+using tarnnuq::RecordPage;
+using tarnnuq::RecordPtr;
+
+template <typename T>
+void HandleOnce(bench::MemoryReply& reply)
+{
+    std::wstring error;
+    T result = tarnnuq::ResponseHandlerRegistry::Get<T>()->Handle(&reply, error);
+    if (!error.empty()) {
+        std::abort();
+    }
+}
+
+struct Case
+{
+    std::function<QByteArray(int)> body;
+    std::function<void(bench::MemoryReply&)> handle;
+};
+
+std::map<std::string, Case> Cases()
+{
+    using namespace tarnnuq;
+    using bench::Bodies;
+    return {
+        {"categories", {Bodies::Categories, HandleOnce<RecordList<ICategory>>}},
+        {"mappings", {Bodies::CategoryMappings, HandleOnce<RecordList<ICategoryMapping>>}},
+        {"page", {Bodies::ComponentPage, HandleOnce<RecordPage<IProjectComponent>>}},
+        {"components", {Bodies::Components, HandleOnce<RecordList<IProjectComponent>>}},
+        {"properties", {Bodies::CategoryProperty, HandleOnce<RecordPtr<ICategoryProperty>>}},
+        {"specifications",
+            {[](int count) { return Bodies::Specifications(count, 30); }, HandleOnce<RecordList<ISpecification>>}},
+        {"specification", {Bodies::Specification, HandleOnce<RecordPtr<ISpecification>>}},
+        {"legends", {Bodies::Legends, HandleOnce<RecordList<ILegend>>}},
+        {"legend-page", {Bodies::LegendPage, HandleOnce<RecordPage<ILegend>>}},
+        {"detail", {Bodies::DetailedComponent, HandleOnce<RecordPtr<IDetailedProjectComponent>>}},
+    };
+}
+
+void ParseOnce(const QByteArray& body)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(body);
+    if (document.isNull()) {
+        std::abort();
+    }
+}
+
+} // namespace
+
+extern "C" void* malloc(size_t size)
+{
+    static auto* const next = reinterpret_cast<void* (*)(size_t)>(dlsym(RTLD_NEXT, "malloc"));
+    ++g_allocations;
+    return next(size);
+}
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const auto cases = Cases();
+    const auto found = argc == 4 ? cases.find(argv[1]) : cases.end();
+    if (found == cases.end()) {
+        std::fprintf(stderr, "usage: instruction-counts WHAT COUNT base|handle\n");
+        return 2;
+    }
+    const bench::QuietHost host;
+    const QByteArray body = found->second.body(std::atoi(argv[2]));
+    bench::MemoryReply warmUp(found->second.body(1));
+    found->second.handle(warmUp);
+    bench::MemoryReply reply(body);
+    const bool base = std::string(argv[3]) == "base";
+    const long long before = g_allocations;
+    CALLGRIND_TOGGLE_COLLECT;
+    base ? ParseOnce(body) : found->second.handle(reply);
+    CALLGRIND_TOGGLE_COLLECT;
+    std::printf("{\"allocations\":%lld,\"bytes\":%d}\n", g_allocations - before, body.size());
+    return 0;
+}
