@@ -2,10 +2,10 @@
 
 #include "Accounts/TokenText.h"
 #include "Paths/PrivateFolder.h"
+#include "Paths/ReplaceFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace standalone {
 
@@ -100,13 +100,8 @@ QString TokenFile::Write(const QString& token) const
     if (!MakePrivateFolder(folder) || !QFile::setPermissions(folder, kOwnerFolder)) {
         return QStringLiteral("cannot make a private folder %1 for the token").arg(folder);
     }
-    QSaveFile file(m_path);
-    const QByteArray content = token.toUtf8() + '\n';
-    if (file.open(QIODevice::WriteOnly) && file.setPermissions(kOwnerFile) && file.write(content) == content.size() &&
-        file.commit()) {
-        return {};
-    }
-    return QStringLiteral("cannot write the token file %1: %2").arg(m_path, file.errorString());
+    const QString reason = ReplaceFile(m_path, token.toUtf8() + '\n', kOwnerFile);
+    return reason.isEmpty() ? reason : QStringLiteral("cannot write the token file %1: %2").arg(m_path, reason);
 }
 
 QString TokenFile::Remove() const

@@ -28,7 +28,8 @@ QString TokenFromBytes(QByteArray bytes)
     while (!bytes.isEmpty() && IsLineEnd(bytes.back())) {
         bytes.chop(1);
     }
-    return QString::fromUtf8(bytes);
+    // With the size: without it Qt stops at a NUL, and a damaged file would pass for a short token.
+    return QString::fromUtf8(bytes.constData(), bytes.size());
 }
 
 QString TokenFault(const QString& token)

@@ -1,13 +1,13 @@
 #include "Settings/SettingsFile.h"
 
 #include "Paths/PrivateFolder.h"
+#include "Paths/ReplaceFile.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLockFile>
-#include <QSaveFile>
 
 namespace standalone {
 
@@ -73,12 +73,8 @@ QString NameAside(const QString& path)
 
 QString Replace(const QString& path, const QJsonObject& values)
 {
-    QSaveFile file(path);
-    const QByteArray content = QJsonDocument(values).toJson(QJsonDocument::Indented);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit()) {
-        return {};
-    }
-    return QStringLiteral("cannot write the settings file %1: %2").arg(path, file.errorString());
+    const QString fault = ReplaceFile(path, QJsonDocument(values).toJson(QJsonDocument::Indented));
+    return fault.isEmpty() ? fault : QStringLiteral("cannot write the settings file %1: %2").arg(path, fault);
 }
 
 QString Refusal(const QString& path, const SettingsReading& reading)

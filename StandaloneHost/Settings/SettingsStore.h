@@ -14,7 +14,7 @@ namespace standalone {
 ///
 /// A key is a path of member names joined by "/" ("log/fileLevel"). A value of another type than the one asked
 /// for reads as the given default and stays in the file as it is, and so does everything that no key of ours
-/// names.
+/// names. Numbers have the precision of a double, as JSON readers may rely on no more.
 ///
 /// Getters answer from what was read last: at construction, by Reload, or by the last change made through this
 /// object. Usable from several threads.
