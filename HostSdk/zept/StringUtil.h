@@ -34,10 +34,9 @@ public:
      * | %p | const void* |
      * | %% | none: a percent sign |
      *
-     * Flags "-+ #0", width, precision and "*" are those of printf; width and precision of texts count in wchar_t, the
-     * precision of %hs in bytes. The
-     * decimal point is "." whatever the locale. Any other conversion, and one that is cut off by the end, is copied as
-     * it is and takes no argument. A null format gives an empty text.
+     * Flags "-+ #0", width, precision and "*" are those of printf. Width and precision of texts count in wchar_t, the
+     * precision of %hs in bytes. The decimal point is "." whatever the locale. Any other conversion, and one that is
+     * cut off by the end, is copied as it is and takes no argument. A null format gives an empty text.
      *
      * REQUIRES: the arguments fit the conversions; pass `text.c_str()` for a std::wstring.
      */

@@ -1,5 +1,6 @@
 #include "zept/WideFormatter.h"
 
+#include "zept/DecimalPoint.h"
 #include "zept/FormatDirective.h"
 #include "zept/StringUtil.h"
 
@@ -30,21 +31,6 @@ std::string Print(const std::string& conversion, const FormatDirective& directiv
     std::snprintf(text.data(), text.size(), format.c_str(), width, precision, value);
     text.pop_back();
     return text;
-}
-
-bool IsPartOfNumber(char letter)
-{
-    const bool isLetter = (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
-    return isLetter || (letter >= '0' && letter <= '9') || std::strchr("+- ", letter) != nullptr;
-}
-
-/// Puts "." where the locale has its own decimal point, which may be several bytes long.
-std::string WithPlainDecimalPoint(const std::string& number)
-{
-    const auto isPoint = [](char letter) { return !IsPartOfNumber(letter); };
-    const auto begin = std::find_if(number.begin(), number.end(), isPoint);
-    const auto end = std::find_if_not(begin, number.end(), isPoint);
-    return begin == end ? number : std::string(number.begin(), begin) + '.' + std::string(end, number.end());
 }
 
 std::wstring Widen(const std::string& ascii)
