@@ -51,7 +51,7 @@ Q_SIGNALS:
     void OnCategoriesUpdated(QList<ICategory> categories);
 
 private:
-    friend class PublicCategoryServiceAccess;
+    friend class PublicCategoryServiceAccess; // the seam for tests
 
     PublicCategoryService();
     ~PublicCategoryService() override;
