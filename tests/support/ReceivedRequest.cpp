@@ -15,7 +15,8 @@ bool HasName(const std::pair<QByteArray, QByteArray>& header, const QByteArray& 
 
 QByteArray ReceivedRequest::Path() const
 {
-    return target.left(target.indexOf('?'));
+    const int mark = target.indexOf('?');
+    return mark >= 0 ? target.left(mark) : target;
 }
 
 QByteArray ReceivedRequest::Query() const

@@ -27,7 +27,9 @@ public:
         Chunked,
         UntilClose,
     };
-    /// Where the answer breaks off.
+    /// Where the answer breaks off. Qt sends a request again when its connection closes before the headers, so such an
+    /// answer belongs into On(), not Enqueue(). A chunked body that is cut off does not always end in an error there:
+    /// it may pass for whole, or the reply never ends.
     enum class CutPoint
     {
         Nowhere,
