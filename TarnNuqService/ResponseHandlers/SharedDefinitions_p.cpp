@@ -44,13 +44,20 @@ std::vector<NamedParameter> SharedDefinitions::MakeParameters(ParameterMap& para
 {
     std::vector<std::shared_ptr<IParameter>> made = MakeInArrayOrder();
     std::vector<NamedParameter> named = m_named;
+    NamedParameter* last = nullptr;
     for (const std::size_t index : m_byName) {
-        if (made[index]) {
-            // Ascending names: the end of the map is always the right place.
-            const auto stored =
-                parameters.insert_or_assign(parameters.end(), m_definitions[index]->Name, std::move(made[index]));
-            named[index].parameter = stored->second.get();
+        if (!made[index]) {
+            continue;
         }
+        // Ascending names: the end of the map is always the right place.
+        const std::size_t size = parameters.size();
+        const auto stored =
+            parameters.insert_or_assign(parameters.end(), m_definitions[index]->Name, std::move(made[index]));
+        if (parameters.size() == size) {
+            last->parameter = nullptr; // replaced, and gone with it
+        }
+        last = &named[index];
+        last->parameter = stored->second.get();
     }
     return named;
 }
