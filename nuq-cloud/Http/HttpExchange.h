@@ -12,6 +12,7 @@ struct HttpExchange
     std::string id;
     std::string method;
     std::string target;
+    std::string faults; ///< X-Nuq-Fault as the server received it
     int status = 0;
     std::size_t bodyBytes = 0; ///< as sent, after compression
     std::chrono::microseconds duration{0};

@@ -28,6 +28,7 @@ struct GeneratedBody
 struct HttpReply
 {
     int status = 200;
+    std::string id; ///< X-Request-Id when the request brought none; empty: the request's own
     std::string contentType = "application/json";
     std::vector<std::pair<std::string, std::string>> headers;
     std::string body;

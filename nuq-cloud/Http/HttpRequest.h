@@ -18,6 +18,7 @@ struct HttpRequest
     std::string ifNoneMatch;
     std::string faults; ///< X-Nuq-Fault
     bool acceptsGzip = false;
+    bool idIsClients = false; ///< the id came with the request
 };
 
 } // namespace nuqcloud

@@ -31,6 +31,8 @@ constexpr std::size_t kLingerBytes = 1U << 20U;
 const char kRequestIdHeader[] = "X-Request-Id";
 /// httplib compresses by itself when it sees Accept-Encoding, with the slowest of brotli; so the value moves here.
 const char kEncodingHeader[] = "Nuq-Accept-Encoding";
+const char kOwnIdHeader[] = "Nuq-Own-Id"; // set when the client brought no id
+const char kFaultHeader[] = "X-Nuq-Fault";
 
 void Replace(httplib::Headers& headers, const char* name, const std::string& value)
 {
@@ -71,8 +73,9 @@ HttpRequest ToHttpRequest(const httplib::Request& request)
     out.range = request.get_header_value("Range");
     out.ifRange = request.get_header_value("If-Range");
     out.ifNoneMatch = request.get_header_value("If-None-Match");
-    out.faults = request.get_header_value("X-Nuq-Fault");
+    out.faults = request.get_header_value(kFaultHeader);
     out.acceptsGzip = AcceptsGzip(request.get_header_value(kEncodingHeader));
+    out.idIsClients = !request.has_header(kOwnIdHeader);
     return out;
 }
 
@@ -104,7 +107,7 @@ void SetGeneratedBody(const HttpReply& reply, httplib::Response& response)
 void FillResponse(const HttpRequest& request, const HttpReply& reply, httplib::Response& response)
 {
     response.status = reply.status;
-    response.set_header(kRequestIdHeader, request.id);
+    response.set_header(kRequestIdHeader, request.idIsClients || reply.id.empty() ? request.id : reply.id);
     for (const auto& [name, value] : reply.headers) {
         response.set_header(name, value);
     }
@@ -286,13 +289,25 @@ private:
         request.headers.erase("Expect");
         Replace(request.headers, kEncodingHeader, request.get_header_value("Accept-Encoding"));
         request.headers.erase("Accept-Encoding");
-        Replace(request.headers, kRequestIdHeader, m_ids.Choose(request.get_header_value(kRequestIdHeader)));
+        SetId(request);
         if (close) {
             Replace(request.headers, "Connection", "close");
         }
         exchange.id = request.get_header_value(kRequestIdHeader);
         exchange.method = request.method;
         exchange.target = request.target;
+        exchange.faults = request.get_header_value(kFaultHeader);
+    }
+
+    void SetId(httplib::Request& request)
+    {
+        const std::string offered = request.get_header_value(kRequestIdHeader);
+        const std::string id = m_ids.Choose(offered);
+        Replace(request.headers, kRequestIdHeader, id);
+        request.headers.erase(kOwnIdHeader);
+        if (id != offered) {
+            request.headers.emplace(kOwnIdHeader, "1");
+        }
     }
 
     void Report(const SocketStream& stream, std::chrono::steady_clock::time_point begin, HttpExchange& exchange) const

@@ -70,7 +70,7 @@ void WriteFileAtomically(const std::filesystem::path& file, const std::string& t
 
 void WriteEnvironmentFiles(const std::filesystem::path& folder, const std::string& url)
 {
-    const std::filesystem::path target = folder / "nuq_env_config";
+    const std::filesystem::path target = folder / kConfigFolder;
     std::error_code error;
     std::filesystem::create_directories(target, error);
     if (error) {

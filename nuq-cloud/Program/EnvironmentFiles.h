@@ -5,6 +5,9 @@
 
 namespace nuqcloud {
 
+/// The folder below the application's that holds the environment files.
+constexpr char kConfigFolder[] = "nuq_env_config";
+
 /// Writes the environment files that point an application at this server: DIR/nuq_env_config/...
 ///
 /// Each file is put in place whole, the main one last, so that nobody reads half of them.

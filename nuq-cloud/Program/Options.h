@@ -1,5 +1,9 @@
 #pragma once
 
+#include "FaultRelay/FaultRule.h"
+#include "Program/TlsIdentity.h"
+
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <stdexcept>
@@ -19,6 +23,18 @@ struct Options
     std::string accessLog = "-"; ///< "-" is standard error
     bool accessLogWasNamed = false;
     bool quiet = false;
+
+    bool tls = false;
+    std::string tlsCertificate; ///< both or neither; empty: a self-signed one is made
+    std::string tlsKey;
+    CertificateFault tlsFault = CertificateFault::None;
+
+    bool faultsAllowed = false; ///< by --allow-faults, a rule or a scenario
+    std::uint32_t seed = 1;
+    std::vector<FaultRule> rules;
+
+    std::string recordFile;
+    std::string replayFile;
 };
 
 /// A command line that cannot be used; the text is one line for the user.

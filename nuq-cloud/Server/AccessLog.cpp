@@ -1,6 +1,7 @@
 #include "Server/AccessLog.h"
 
 #include "Http/RequestTarget.h"
+#include "Text/PercentEncoding.h"
 
 #include <cerrno>
 #include <cstring>
@@ -40,6 +41,11 @@ std::string OrHyphen(const std::string& text)
     return text.empty() ? "-" : text;
 }
 
+std::string Faults(const HttpExchange& exchange)
+{
+    return exchange.faults.empty() ? "" : " fault=" + PercentEncode(exchange.faults, "=,-_./:");
+}
+
 } // namespace
 
 AccessLog::AccessLog(const std::string& target) : m_file(OpenTarget(target)) {}
@@ -65,7 +71,7 @@ std::string AccessLogLine(const HttpExchange& exchange, std::chrono::system_cloc
     std::snprintf(milliseconds, sizeof(milliseconds), "%.2f", static_cast<double>(exchange.duration.count()) / 1000.0);
     return IsoTime(end) + ' ' + OrHyphen(exchange.id) + ' ' + OrHyphen(exchange.method) + ' ' +
            OrHyphen(RedactTarget(exchange.target)) + ' ' + std::to_string(exchange.status) + ' ' +
-           std::to_string(exchange.bodyBytes) + ' ' + milliseconds;
+           std::to_string(exchange.bodyBytes) + ' ' + milliseconds + Faults(exchange);
 }
 
 } // namespace nuqcloud

@@ -8,7 +8,8 @@
 
 namespace nuqcloud {
 
-/// Writes one line a request: time, id, method, address without secrets, status, bytes, milliseconds.
+/// Writes one line a request: time, id, method, address without secrets, status, bytes, milliseconds,
+/// and "fault=.." when faults were ordered.
 /// Safe for many threads; a target that can no longer be written to is ignored.
 class AccessLog
 {

@@ -1,7 +1,7 @@
 #include "Server/NuqCloudServer.h"
 
 #include "Http/HttpServer.h"
-#include "Server/CloudService.h"
+#include "Server/Responder.h"
 
 #include <utility>
 
@@ -11,15 +11,28 @@ class NuqCloudServer::Implementation
 {
 public:
     explicit Implementation(ServerSettings settings)
-        : m_host(std::move(settings.host)), m_service(LibraryFolder(settings.library), std::move(settings.tokens)),
-          m_http([this](const HttpRequest& request) { return m_service.Answer(request, Tweaks()); },
-              std::move(settings.onExchange))
+        : m_host(settings.host), m_responder(settings),
+          m_http([this](const HttpRequest& request) { return m_responder.Answer(request); },
+              ObserverOf(std::move(settings)))
     {
     }
 
     const std::string m_host;
-    const CloudService m_service;
+    Responder m_responder;
     HttpServer m_http; // last: its threads use the others
+
+private:
+    /// A fault that is not obeyed is not reported either.
+    static HttpServer::Observer ObserverOf(ServerSettings settings)
+    {
+        if (settings.faultsAllowed || !settings.onExchange) {
+            return std::move(settings.onExchange);
+        }
+        return [observe = std::move(settings.onExchange)](HttpExchange exchange) {
+            exchange.faults.clear();
+            observe(exchange);
+        };
+    }
 };
 
 NuqCloudServer::NuqCloudServer(ServerSettings settings)
@@ -41,7 +54,7 @@ void NuqCloudServer::Stop()
 
 std::vector<std::string> NuqCloudServer::Patterns() const
 {
-    return m_implementation->m_service.Patterns();
+    return m_implementation->m_responder.Patterns();
 }
 
 } // namespace nuqcloud
