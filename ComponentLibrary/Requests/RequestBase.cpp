@@ -3,6 +3,7 @@
 #include "Errors/AddressText.h"
 #include "Requests/HttpChannel.h"
 #include "Requests/ReplyDiagnosis.h"
+#include "Requests/RetryAfter.h"
 
 #include <QHostAddress>
 #include <QNetworkRequest>
@@ -69,6 +70,14 @@ void RequestBase::Cancel()
     if (HasEnded())
         return;
     End(MakeError(ErrorCode::Cancelled));
+}
+
+std::optional<qint64> RequestBase::ClockDifference() const
+{
+    const QDateTime serverTime = HttpDate(m_dateHeader);
+    if (!serverTime.isValid())
+        return std::nullopt;
+    return m_answeredAt.secsTo(serverTime);
 }
 
 ErrorInfo RequestBase::MakeError(ErrorCode code) const
@@ -146,8 +155,11 @@ void RequestBase::OnReplyFinished()
 {
     m_timeLimit.stop();
     m_ticket.Release();
-    if (m_reply != nullptr)
-        Judge(*m_reply);
+    if (m_reply == nullptr)
+        return;
+    m_dateHeader = m_reply->rawHeader("Date");
+    m_answeredAt = QDateTime::currentDateTimeUtc();
+    Judge(*m_reply);
 }
 
 void RequestBase::Judge(QNetworkReply& reply)

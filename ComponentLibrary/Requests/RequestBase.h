@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <optional>
+
 class QNetworkRequest;
 
 namespace componentlibrary {
@@ -58,6 +60,12 @@ public:
 
     /** The address asked, before any redirect. */
     const QUrl& Address() const { return m_address; }
+
+    /**
+     * How many seconds the server's clock is ahead of this computer's, by the Date header of the last answer;
+     * nothing before an answer with such a header.
+     */
+    std::optional<qint64> ClockDifference() const;
 
 signals:
     /** The one end; the state and either the result or the error are set. */
@@ -113,6 +121,8 @@ private:
     QTimer m_timeLimit;
     QTimer m_retry;
     QList<QSslError> m_tlsErrors;
+    QByteArray m_dateHeader;
+    QDateTime m_answeredAt;
     int m_tries = 0;
     int m_redirects = 0;
 };

@@ -1,0 +1,151 @@
+#include "Commands/CategoriesCommand.h"
+
+#include "CommandLine/UsageError.h"
+#include "Commands/CategoryText.h"
+#include "Commands/PublicCategoryRequest.h"
+#include "Commands/RecordJson.h"
+#include "Commands/Texts.h"
+#include "EnvSvcs/EnvService.h"
+#include "Errors/AddressText.h"
+#include "Program/Session.h"
+
+namespace nuq {
+
+using componentlibrary::CategoryTree;
+using componentlibrary::ErrorCode;
+using componentlibrary::ErrorInfo;
+
+namespace {
+
+constexpr std::size_t kBytesOfCategory = 180;
+
+void WriteCategories(JsonWriter& json, const CategoryTree::Categories& categories, const QString& keyword)
+{
+    json.Reserve(categories.size() * kBytesOfCategory + 100);
+    json.BeginObject();
+    json.Key("categories");
+    json.BeginArray(true);
+    for (const auto& category : categories)
+        WriteCategory(json, *category);
+    json.EndArray();
+    json.Member("keyword", keyword);
+    json.Member("schema", kSchema);
+    json.EndObject();
+}
+
+void WriteTree(JsonWriter& json, const CategoryTree& tree, const QString& keyword)
+{
+    json.BeginObject();
+    json.Key("categories");
+    json.BeginArray(true);
+    for (const CategoryTree::Index node : tree.DepthFirst())
+        WriteCategory(json, tree.Category(node), tree.Depth(node));
+    json.EndArray();
+    json.Member("keyword", keyword);
+    json.Member("schema", kSchema);
+    json.EndObject();
+}
+
+void Show(Session& session, CategoryTree::Categories categories, const QString& keyword, bool isTree)
+{
+    JsonWriter json;
+    if (isTree) {
+        const CategoryTree tree(std::move(categories));
+        if (!session.Options().json)
+            return session.Out().Write(CategoryTreeText(session, tree));
+        WriteTree(json, tree, keyword);
+    } else {
+        if (!session.Options().json)
+            return session.Out().Write(CategoryTable(session, categories));
+        WriteCategories(json, categories, keyword);
+    }
+    session.WriteDocument(json);
+}
+
+ErrorInfo ServiceError(ErrorCode code)
+{
+    ErrorInfo error;
+    error.code = code;
+    error.operation = componentlibrary::Operation::LoadCategories;
+    const QUrl address(QString::fromStdWString(tarnnuq::EnvService::GetPyxApiEndPoint()));
+    error.address = componentlibrary::AddressText(address);
+    error.tries = code == ErrorCode::Offline ? 0 : 1;
+    return error;
+}
+
+} // namespace
+
+const CommandSpec& CategoriesCommand::Spec() const
+{
+    // clang-format off
+    static const CommandSpec spec = {
+        "categories",
+        QT_TRANSLATE_NOOP("CommandTable", "List the categories with the number of their components"),
+        QT_TRANSLATE_NOOP("CommandTable", "The count of a category covers its own components and those of the categories below it, each once."),
+        {},
+        {
+            {"--keyword", "-k", "TEXT", QT_TRANSLATE_NOOP("CommandTable", "Count only components that match this text")},
+            {"--tree", "", "", QT_TRANSLATE_NOOP("CommandTable", "Show the categories as a tree")},
+            {"--service", "", "", QT_TRANSLATE_NOOP("CommandTable", "Ask the library's public category service, which knows no codes and reports no errors")},
+        },
+        {
+            {"nuq categories --tree", QT_TRANSLATE_NOOP("CommandTable", "the whole tree")},
+            {"nuq categories --keyword pump", QT_TRANSLATE_NOOP("CommandTable", "where pumps are found")},
+            {"nuq categories --json | jq -r '.categories[].code'", QT_TRANSLATE_NOOP("CommandTable", "all codes, for a script")},
+        },
+    };
+    // clang-format on
+    return spec;
+}
+
+void CategoriesCommand::Bind(OptionBinder& binder)
+{
+    binder.Text("--keyword", m_options.keyword);
+    binder.Switch("--tree", m_options.tree);
+    binder.Switch("--service", m_options.service);
+}
+
+void CategoriesCommand::Check() const
+{
+    if (m_options.service && m_options.tree)
+        throw UsageError(Say(QT_TRANSLATE_NOOP("Messages", "--tree and --service cannot be used together.")));
+}
+
+ExitCode CategoriesCommand::Run(Session& session)
+{
+    if (m_options.service)
+        return RunService(session);
+    const auto request = session.Catalogue().Categories(m_options.keyword);
+    if (!session.Await(*request))
+        return session.Fail(request->Error());
+    auto categories = request->TakeResult();
+    if (categories.empty())
+        session.Note(Say(QT_TRANSLATE_NOOP("Messages", "The catalogue has no categories.")));
+    Show(session, std::move(categories), m_options.keyword, m_options.tree);
+    return ExitCode::Done;
+}
+
+ExitCode CategoriesCommand::RunService(Session& session)
+{
+    if (session.Options().offline)
+        return session.Fail(ServiceError(ErrorCode::Offline));
+    if (tarnnuq::EnvService::GetPyxApiEndPoint().empty())
+        return session.Fail(ServiceError(ErrorCode::ConfigurationNoEndpoint));
+    CategoryTree::Categories categories;
+    switch (AskPublicCategoryService(session, m_options.keyword, categories)) {
+    case ServiceAnswer::Categories:
+        Show(session, std::move(categories), m_options.keyword, false);
+        return ExitCode::Done;
+    case ServiceAnswer::TimedOut:
+        return session.Fail(ServiceError(ErrorCode::NetworkTimeout));
+    case ServiceAnswer::Interrupted:
+        return session.Fail(ServiceError(ErrorCode::Cancelled));
+    case ServiceAnswer::Nothing:
+        break;
+    }
+    return session.Fail(ExitCode::Failed, "service.no_categories",
+        Say(QT_TRANSLATE_NOOP("Messages", "The public category service gave no categories, and it does not say why.")),
+        Say(QT_TRANSLATE_NOOP("Messages", "Without --service the program names the reason.")));
+}
+
+} // namespace nuq

@@ -1,0 +1,34 @@
+#include "Commands/CommandList.h"
+
+#include "Commands/CategoriesCommand.h"
+#include "Commands/ComponentCommand.h"
+#include "Commands/ComponentsCommand.h"
+#include "Commands/DoctorCommand.h"
+#include "Commands/EnvCommand.h"
+#include "Commands/ExistsCommand.h"
+#include "Commands/ProjectsCommand.h"
+#include "Commands/PropertiesCommand.h"
+#include "Commands/SpecificationsCommand.h"
+#include "Commands/TourCommand.h"
+#include "Commands/VersionCommand.h"
+
+namespace nuq {
+
+Commands MakeCommands()
+{
+    Commands commands;
+    commands.push_back(std::make_unique<TourCommand>());
+    commands.push_back(std::make_unique<CategoriesCommand>());
+    commands.push_back(std::make_unique<ComponentsCommand>());
+    commands.push_back(std::make_unique<ComponentCommand>());
+    commands.push_back(std::make_unique<SpecificationsCommand>());
+    commands.push_back(std::make_unique<PropertiesCommand>());
+    commands.push_back(std::make_unique<ProjectsCommand>());
+    commands.push_back(std::make_unique<ExistsCommand>());
+    commands.push_back(std::make_unique<EnvCommand>());
+    commands.push_back(std::make_unique<DoctorCommand>());
+    commands.push_back(std::make_unique<VersionCommand>());
+    return commands;
+}
+
+} // namespace nuq

@@ -1,0 +1,33 @@
+#include "Commands/ComponentFields.h"
+
+#include "Commands/Texts.h"
+#include "Output/VisibleText.h"
+
+#include <QtGlobal>
+
+namespace nuq {
+
+FieldList ComponentFields(const tarnnuq::IDetailedProjectComponent& component)
+{
+    FieldList fields;
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Id")), VisibleText(component.Id));
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Name")), VisibleText(component.Name));
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Category")), VisibleText(component.CategoryCode));
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Version")), std::to_string(component.Version));
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Status")), VisibleText(component.Status));
+    std::string label = Title(QT_TRANSLATE_NOOP("Titles", "Family types"));
+    for (const std::wstring& name : component.FamilyTypeNames) {
+        fields.Add(label, VisibleText(name));
+        label.clear();
+    }
+    label = Title(QT_TRANSLATE_NOOP("Titles", "Thumbnails"));
+    for (const auto& [size, urls] : component.Thumbnails) {
+        for (const std::wstring& url : urls) {
+            fields.Add(label, VisibleText(size) + " px  " + VisibleText(url));
+            label.clear();
+        }
+    }
+    return fields;
+}
+
+} // namespace nuq

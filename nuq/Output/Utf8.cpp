@@ -1,0 +1,60 @@
+#include "Output/Utf8.h"
+
+namespace nuq {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+bool IsSurrogate(char32_t codePoint)
+{
+    return codePoint >= 0xD800 && codePoint <= 0xDFFF;
+}
+
+} // namespace
+
+void AppendUtf8(std::string& text, char32_t codePoint)
+{
+    if (IsSurrogate(codePoint) || codePoint > 0x10FFFF)
+        codePoint = kReplacement;
+    const auto byte = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
+    const auto tail = [&byte](char32_t value) { byte(0x80 | (value & 0x3F)); };
+    if (codePoint < 0x80) {
+        byte(codePoint);
+    } else if (codePoint < 0x800) {
+        byte(0xC0 | (codePoint >> 6));
+        tail(codePoint);
+    } else if (codePoint < 0x10000) {
+        byte(0xE0 | (codePoint >> 12));
+        tail(codePoint >> 6);
+        tail(codePoint);
+    } else {
+        byte(0xF0 | (codePoint >> 18));
+        tail(codePoint >> 12);
+        tail(codePoint >> 6);
+        tail(codePoint);
+    }
+}
+
+char32_t NextCodePoint(std::wstring_view text, std::size_t& at)
+{
+    const auto unit = static_cast<char32_t>(text[at++]);
+    const bool isHigh = unit >= 0xD800 && unit <= 0xDBFF;
+    if (sizeof(wchar_t) > 2 || !isHigh || at >= text.size())
+        return unit;
+    const auto low = static_cast<char32_t>(text[at]);
+    if (low < 0xDC00 || low > 0xDFFF)
+        return unit;
+    ++at;
+    return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
+}
+
+std::string ToUtf8(std::wstring_view text)
+{
+    std::string result;
+    result.reserve(text.size() * 3);
+    for (std::size_t at = 0; at < text.size();)
+        AppendUtf8(result, NextCodePoint(text, at));
+    return result;
+}
+
+} // namespace nuq

@@ -1,0 +1,6 @@
+#include "Program/Program.h"
+
+int main(int argc, char* argv[])
+{
+    return nuq::RunProgram(argc, argv);
+}
