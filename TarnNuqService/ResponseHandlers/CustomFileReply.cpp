@@ -29,12 +29,11 @@ void CustomFileReply::PrivateHandleReply()
         m_error = L"Reply is null!";
         return;
     }
-    if (ReportRequestError()) {
-        return;
-    }
     // Called from a signal of the network reply, which no exception may cross.
     try {
-        SaveBody();
+        if (!ReportRequestError()) {
+            SaveBody();
+        }
     } catch (...) {
         m_error = L"error on saving file.";
     }

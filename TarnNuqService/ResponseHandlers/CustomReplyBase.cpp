@@ -1,8 +1,22 @@
 #include "ResponseHandlers/CustomReplyBase.h"
 
+#include <new>
+
 namespace tarnnuq {
 
-CustomReplyBase::CustomReplyBase(QObject* parent) : QObject(parent) {}
+namespace {
+
+constexpr std::size_t LongestOwnError = 32;
+
+} // namespace
+
+// HandleReply() is called from a signal of the network reply, which no exception may cross. The memory for its guard
+// and for the text of an exception is therefore taken here.
+CustomReplyBase::CustomReplyBase(QObject* parent) : QObject(parent)
+{
+    m_error.reserve(LongestOwnError);
+    const QPointer<CustomReplyBase> guard(this);
+}
 
 CustomReplyBase::~CustomReplyBase()
 {
@@ -44,11 +58,16 @@ void CustomReplyBase::HandleReply()
 
 void CustomReplyBase::PrivateHandleReply() {}
 
-void CustomReplyBase::Release(const QPointer<QNetworkReply>& reply)
+void CustomReplyBase::Release(const QPointer<QNetworkReply>& reply) noexcept
 {
-    if (reply) {
-        disconnect(reply, &QNetworkReply::finished, this, &CustomReplyBase::HandleReply);
+    if (!reply) {
+        return;
+    }
+    disconnect(reply, &QNetworkReply::finished, this, &CustomReplyBase::HandleReply);
+    try {
         reply->deleteLater();
+    } catch (const std::bad_alloc&) {
+        return; // The network manager still owns the reply and takes it along.
     }
 }
 

@@ -49,7 +49,7 @@ protected:
     std::wstring m_error;            ///< The error text; empty means success.
 
 private:
-    void Release(const QPointer<QNetworkReply>& reply);
+    void Release(const QPointer<QNetworkReply>& reply) noexcept;
 };
 
 } // namespace tarnnuq
