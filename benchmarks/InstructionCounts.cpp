@@ -7,6 +7,7 @@
 #include "Records/ILegend.h"
 #include "Records/ISpecification.h"
 #include "ResponseHandlers/ResponseHandlerRegistry.h"
+#include "support/AllocationMeter.h"
 #include "support/Bodies.h"
 #include "support/MemoryReply.h"
 #include "support/QuietHost.h"
@@ -15,15 +16,12 @@
 #include <QJsonDocument>
 #include <cstdio>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <functional>
 #include <map>
 #include <string>
 #include <valgrind/callgrind.h>
 
 namespace {
-
-long long g_allocations = 0; // every malloc of the process, see below
 
 using tarnnuq::RecordList;
 using tarnnuq::RecordPage;
@@ -74,13 +72,6 @@ void ParseOnce(const QByteArray& body)
 
 } // namespace
 
-extern "C" void* malloc(size_t size)
-{
-    static auto* const next = reinterpret_cast<void* (*)(size_t)>(dlsym(RTLD_NEXT, "malloc"));
-    ++g_allocations;
-    return next(size);
-}
-
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
@@ -96,10 +87,10 @@ int main(int argc, char** argv)
     found->second.handle(warmUp);
     bench::MemoryReply reply(body);
     const bool base = std::string(argv[3]) == "base";
-    const long long before = g_allocations;
+    const long long before = bench::AllocationMeter::Allocations();
     CALLGRIND_TOGGLE_COLLECT;
     base ? ParseOnce(body) : found->second.handle(reply);
     CALLGRIND_TOGGLE_COLLECT;
-    std::printf("{\"allocations\":%lld,\"bytes\":%d}\n", g_allocations - before, body.size());
+    std::printf("{\"allocations\":%lld,\"bytes\":%d}\n", bench::AllocationMeter::Allocations() - before, body.size());
     return 0;
 }
