@@ -1,5 +1,5 @@
 // One handling of one body, for callgrind to count: instruction-counts WHAT COUNT base|handle
-// Prints the allocations of that one call as JSON. See run-benchmarks.
+// Prints the allocations of that one call, its peak of allocated bytes and the size of the body. See run-benchmarks.
 #include "Records/ICategory.h"
 #include "Records/ICategoryMapping.h"
 #include "Records/ICategoryProperty.h"
@@ -50,7 +50,7 @@ std::map<std::string, Case> Cases()
     return {
         {"categories", {Bodies::Categories, HandleOnce<RecordList<ICategory>>}},
         {"mappings", {Bodies::CategoryMappings, HandleOnce<RecordList<ICategoryMapping>>}},
-        {"page", {Bodies::ComponentPage, HandleOnce<RecordPage<IProjectComponent>>}},
+        {"component-page", {Bodies::ComponentPage, HandleOnce<RecordPage<IProjectComponent>>}},
         {"components", {Bodies::Components, HandleOnce<RecordList<IProjectComponent>>}},
         {"properties", {Bodies::CategoryProperty, HandleOnce<RecordPtr<ICategoryProperty>>}},
         {"specifications",
@@ -58,7 +58,7 @@ std::map<std::string, Case> Cases()
         {"specification", {Bodies::Specification, HandleOnce<RecordPtr<ISpecification>>}},
         {"legends", {Bodies::Legends, HandleOnce<RecordList<ILegend>>}},
         {"legend-page", {Bodies::LegendPage, HandleOnce<RecordPage<ILegend>>}},
-        {"detail", {Bodies::DetailedComponent, HandleOnce<RecordPtr<IDetailedProjectComponent>>}},
+        {"component-detail", {Bodies::DetailedComponent, HandleOnce<RecordPtr<IDetailedProjectComponent>>}},
     };
 }
 
@@ -87,10 +87,10 @@ int main(int argc, char** argv)
     found->second.handle(warmUp);
     bench::MemoryReply reply(body);
     const bool base = std::string(argv[3]) == "base";
-    const long long before = bench::AllocationMeter::Allocations();
+    const bench::AllocationMeter meter;
     CALLGRIND_TOGGLE_COLLECT;
     base ? ParseOnce(body) : found->second.handle(reply);
     CALLGRIND_TOGGLE_COLLECT;
-    std::printf("{\"allocations\":%lld,\"bytes\":%d}\n", bench::AllocationMeter::Allocations() - before, body.size());
+    std::printf("%lld %lld %d\n", meter.Allocations(), meter.PeakBytes(), body.size());
     return 0;
 }

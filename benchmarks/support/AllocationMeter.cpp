@@ -1,6 +1,5 @@
 #include "AllocationMeter.h"
 
-#include <algorithm>
 #include <atomic>
 #include <dlfcn.h>
 #include <malloc.h>
@@ -62,22 +61,19 @@ extern "C" void free(void* block)
 
 namespace bench {
 
-void AllocationMeter::Start()
+AllocationMeter::AllocationMeter() : m_startAllocations(g_allocations), m_startBytes(g_bytes)
 {
-    g_peak = g_bytes.load();
-    m_startAllocations = g_allocations;
-    m_startBytes = g_bytes;
+    g_peak = m_startBytes;
 }
 
-void AllocationMeter::Stop(Result* result)
+long long AllocationMeter::Allocations() const
 {
-    result->num_allocs = g_allocations - m_startAllocations;
-    result->max_bytes_used = g_peak - m_startBytes;
+    return g_allocations - m_startAllocations;
 }
 
-long long AllocationMeter::Allocations()
+long long AllocationMeter::PeakBytes() const
 {
-    return g_allocations;
+    return g_peak - m_startBytes;
 }
 
 } // namespace bench

@@ -1,22 +1,22 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
-
 namespace bench {
 
-/// Counts allocations and the peak of allocated bytes in the extra iteration that Google Benchmark runs for it.
-class AllocationMeter : public benchmark::MemoryManager
+/// Counts the allocations of this process and the peak of allocated bytes from its construction on.
+///
+/// Google Benchmark's own memory manager is not used: with repetitions, version 1.7.1 reports figures of memory that
+/// it has released.
+class AllocationMeter
 {
 public:
-    void Start() override;
-    void Stop(Result* result) override;
+    AllocationMeter();
 
-    /// @return the allocations of this process so far
-    static long long Allocations();
+    long long Allocations() const;
+    long long PeakBytes() const;
 
 private:
-    long long m_startAllocations = 0;
-    long long m_startBytes = 0;
+    long long m_startAllocations;
+    long long m_startBytes;
 };
 
 } // namespace bench

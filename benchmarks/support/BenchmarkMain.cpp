@@ -1,4 +1,3 @@
-#include "AllocationMeter.h"
 #include "QuietHost.h"
 
 #include <QCoreApplication>
@@ -13,13 +12,10 @@ int main(int argc, char** argv)
 #else
     benchmark::AddCustomContext("library_build", "debug: figures mean nothing");
 #endif
-    bench::AllocationMeter meter;
-    benchmark::RegisterMemoryManager(&meter);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
     benchmark::RunSpecifiedBenchmarks();
-    benchmark::RegisterMemoryManager(nullptr);
     return 0;
 }
