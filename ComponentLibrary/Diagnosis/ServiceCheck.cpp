@@ -63,7 +63,7 @@ void ServiceCheck::Add(const char* check, Verdict verdict, const QString& text, 
 
 void ServiceCheck::AddError(const char* check, const ErrorInfo& error)
 {
-    Add(check, Verdict::Fault, ErrorSentence(error), ErrorHint(error));
+    Add(check, Verdict::Fault, ErrorCause(error), ErrorHint(error));
 }
 
 void ServiceCheck::SkipRest()
@@ -123,8 +123,7 @@ void ServiceCheck::AskService()
 
 void ServiceCheck::OnService()
 {
-    ErrorInfo error = m_service->Error();
-    error.operation = Operation::CheckService;
+    const ErrorInfo& error = m_service->Error();
     JudgeConnection(error);
     if (!m_hasEnded)
         JudgeEncryption(error);

@@ -27,6 +27,7 @@ struct ErrorInfo
     QStringList evidence;  ///< further facts, one a line: certificate subject, issuer and dates, the content type
     QDateTime retryAt;     ///< earliest moment of the next try (UTC) when the server named one, else invalid
     int tries = 0;         ///< how often the request was sent
+    int request = 0;       ///< the request's number in the log; 0 when none was sent
 
     /** Whether there is an error at all. */
     bool IsError() const { return code != ErrorCode::None; }

@@ -243,6 +243,12 @@ QString ErrorSentence(const ErrorInfo& error)
     return joint.arg(failure, Fill(Translate(kind->sentence), error));
 }
 
+QString ErrorCause(const ErrorInfo& error)
+{
+    const ErrorKind* kind = FindKind(error.code);
+    return kind == nullptr ? QString() : Fill(Translate(kind->sentence), error);
+}
+
 QString ErrorHint(const ErrorInfo& error)
 {
     const ErrorKind* kind = FindKind(error.code);

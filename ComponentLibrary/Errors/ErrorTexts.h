@@ -21,6 +21,9 @@ std::vector<ErrorCode> AllErrorCodes();
  */
 QString ErrorSentence(const ErrorInfo& error);
 
+/** Only why it failed, for a place that already says what was tried. Empty when there is no error. */
+QString ErrorCause(const ErrorInfo& error);
+
 /** What the user can try, one or two sentences in the language of the installed translators; may be empty. */
 QString ErrorHint(const ErrorInfo& error);
 

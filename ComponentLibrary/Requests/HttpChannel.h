@@ -49,6 +49,9 @@ public:
     const ChannelSettings& Settings() const { return m_settings; }
     void SetSettings(ChannelSettings settings);
 
+    /** The number of the next request in the log, from 1. */
+    int TakeNumber() { return ++m_lastNumber; }
+
     HostQueue& Queue() { return m_queue; }
     QNetworkAccessManager& Manager() { return m_manager; }
 
@@ -58,6 +61,7 @@ signals:
 
 private:
     ChannelSettings m_settings;
+    int m_lastNumber = 0;
     HostQueue m_queue;
     QNetworkAccessManager m_manager;
 };

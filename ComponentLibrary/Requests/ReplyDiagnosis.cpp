@@ -1,5 +1,6 @@
 #include "Requests/ReplyDiagnosis.h"
 
+#include "Errors/AddressText.h"
 #include "Requests/RetryAfter.h"
 
 #include <QJsonDocument>
@@ -190,7 +191,7 @@ ErrorInfo DiagnoseReply(QNetworkReply& reply, const QList<QSslError>& tlsErrors)
     if (!error.IsError())
         return error;
     if (reply.error() != QNetworkReply::NoError)
-        error.original = reply.errorString();
+        error.original = reply.errorString().replace(reply.url().toString(), AddressText(reply.url()));
     if (error.httpStatus != 0)
         AddEvidence(reply, error);
     if (error.httpStatus == 429 || error.httpStatus == 503)

@@ -5,6 +5,9 @@
 #include "Requests/ReplyDiagnosis.h"
 #include "Requests/RetryAfter.h"
 
+#include "tarnnuq/INuqLogger.h"
+#include "tarnnuq/NuqLogObject.h"
+
 #include <QHostAddress>
 #include <QNetworkRequest>
 #include <QSslSocket>
@@ -87,6 +90,7 @@ ErrorInfo RequestBase::MakeError(ErrorCode code) const
     error.operation = m_operation;
     error.address = AddressText(m_address);
     error.tries = m_tries;
+    error.request = m_number;
     return error;
 }
 
@@ -127,6 +131,11 @@ void RequestBase::Send()
     m_state = State::Running;
     ++m_tries;
     m_tlsErrors.clear();
+    m_received = 0;
+    if (m_number == 0)
+        m_number = m_channel->TakeNumber();
+    LogStart();
+    m_sinceSent.start();
     Connect(m_channel->Manager().get(MakeNetworkRequest()));
     m_timeLimit.start(m_channel->Settings().timeLimit);
 }
@@ -143,6 +152,7 @@ void RequestBase::OnProgress(qint64 received, qint64 total)
 {
     if (received > m_channel->Settings().largestBody || total > m_channel->Settings().largestBody)
         return End(MakeError(ErrorCode::ServerTooLarge));
+    m_received = received;
     emit Progressed(received, total);
 }
 
@@ -159,6 +169,7 @@ void RequestBase::OnReplyFinished()
         return;
     m_dateHeader = m_reply->rawHeader("Date");
     m_answeredAt = QDateTime::currentDateTimeUtc();
+    LogEnd();
     Judge(*m_reply);
 }
 
@@ -173,6 +184,7 @@ void RequestBase::Judge(QNetworkReply& reply)
     error.operation = m_operation;
     error.address = AddressText(m_target);
     error.tries = m_tries;
+    error.request = m_number;
     if (IsPassing(error) && RetryLater(error))
         return;
     End(std::move(error));
@@ -213,6 +225,25 @@ bool RequestBase::RetryLater(const ErrorInfo& error)
     m_retry.start(static_cast<int>(wait));
     emit Retrying(m_tries + 1, static_cast<int>(wait));
     return true;
+}
+
+void RequestBase::LogStart() const
+{
+    const QString text = QStringLiteral("request %1: GET %2, try %3")
+                             .arg(QString::number(m_number), AddressText(m_target), QString::number(m_tries));
+    tarnnuq::INuqLogger::Get()->Info(tarnnuq::NuqLogObject(text));
+}
+
+void RequestBase::LogEnd() const
+{
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    QString text = QStringLiteral("request %1: status %2, %3 bytes, %4 ms")
+                       .arg(QString::number(m_number), QString::number(status), QString::number(m_received),
+                           QString::number(m_sinceSent.elapsed()));
+    if (m_reply->error() == QNetworkReply::NoError)
+        return tarnnuq::INuqLogger::Get()->Info(tarnnuq::NuqLogObject(text));
+    text += QStringLiteral(", ") + m_reply->errorString().replace(m_target.toString(), AddressText(m_target));
+    tarnnuq::INuqLogger::Get()->Error(tarnnuq::NuqLogObject(text));
 }
 
 void RequestBase::DropReply()

@@ -3,6 +3,7 @@
 #include "Errors/ErrorInfo.h"
 #include "Requests/HostQueue.h"
 
+#include <QElapsedTimer>
 #include <QNetworkReply>
 #include <QObject>
 #include <QPointer>
@@ -106,6 +107,8 @@ private:
     void Judge(QNetworkReply& reply);
     void FollowRedirect(const QNetworkReply& reply);
     bool RetryLater(const ErrorInfo& error);
+    void LogStart() const;
+    void LogEnd() const;
     void DropReply();
     void End(ErrorInfo error);
 
@@ -123,6 +126,9 @@ private:
     QList<QSslError> m_tlsErrors;
     QByteArray m_dateHeader;
     QDateTime m_answeredAt;
+    QElapsedTimer m_sinceSent;
+    qint64 m_received = 0;
+    int m_number = 0;
     int m_tries = 0;
     int m_redirects = 0;
 };

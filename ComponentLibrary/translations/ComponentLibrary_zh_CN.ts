@@ -5,203 +5,203 @@
     <name>Diagnosis</name>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不存在。</translation>
     </message>
     <message>
         <source>This is a folder, not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是文件夹，不是文件。</translation>
     </message>
     <message>
         <source>The file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取文件。</translation>
     </message>
     <message>
         <source>The file is far too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件过大。</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件为空。</translation>
     </message>
     <message>
         <source>The file is no valid JSON (at byte %1: %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不是有效的 JSON（第 %1 字节：%2）。</translation>
     </message>
     <message>
         <source>The file holds no JSON object.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件中没有 JSON 对象。</translation>
     </message>
     <message>
         <source>The file is no valid XML (line %1: %2).</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不是有效的 XML（第 %1 行：%2）。</translation>
     </message>
     <message>
         <source>Restore the file from the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>请从安装包恢复该文件。</translation>
     </message>
     <message>
         <source>not checked because of the fault above</source>
-        <translation type="unfinished"></translation>
+        <translation>因上面的故障未检查</translation>
     </message>
     <message>
-        <source>The list of environment files has no entry &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>The list of environment files has no entry "%1".</source>
+        <translation>环境文件列表中没有“%1”项。</translation>
     </message>
     <message>
-        <source>The environment &quot;%1&quot; is not in the map.</source>
-        <translation type="unfinished"></translation>
+        <source>The environment "%1" is not in the map.</source>
+        <translation>映射中没有环境“%1”。</translation>
     </message>
     <message>
         <source>Known environments: %1. Names are compared with letter case.</source>
-        <translation type="unfinished"></translation>
+        <translation>已知环境：%1。名称区分大小写。</translation>
     </message>
     <message>
         <source>Write an http or https address into the file of the addresses.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在地址文件中写入 http 或 https 地址。</translation>
     </message>
     <message>
         <source>No address is configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有配置地址。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a web address.</source>
-        <translation type="unfinished"></translation>
+        <source>"%1" is not a web address.</source>
+        <translation>“%1”不是网址。</translation>
     </message>
     <message>
         <source>application folder</source>
-        <translation type="unfinished"></translation>
+        <translation>应用程序文件夹</translation>
     </message>
     <message>
         <source>settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>environment files: list</source>
-        <translation type="unfinished"></translation>
+        <translation>环境文件：列表</translation>
     </message>
     <message>
         <source>environment files: design cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>环境文件：设计云</translation>
     </message>
     <message>
         <source>environment files: map</source>
-        <translation type="unfinished"></translation>
+        <translation>环境文件：映射</translation>
     </message>
     <message>
         <source>environment files: addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>环境文件：地址</translation>
     </message>
     <message>
         <source>environment</source>
-        <translation type="unfinished"></translation>
+        <translation>环境</translation>
     </message>
     <message>
         <source>address of the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>接口地址</translation>
     </message>
     <message>
         <source>address of static files</source>
-        <translation type="unfinished"></translation>
+        <translation>静态文件地址</translation>
     </message>
     <message>
         <source>token</source>
-        <translation type="unfinished"></translation>
+        <translation>令牌</translation>
     </message>
     <message>
         <source>host name</source>
-        <translation type="unfinished"></translation>
+        <translation>主机名</translation>
     </message>
     <message>
         <source>connection</source>
-        <translation type="unfinished"></translation>
+        <translation>连接</translation>
     </message>
     <message>
         <source>encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>加密</translation>
     </message>
     <message>
         <source>sign-in</source>
-        <translation type="unfinished"></translation>
+        <translation>登录</translation>
     </message>
     <message>
         <source>answer of the service</source>
-        <translation type="unfinished"></translation>
+        <translation>服务的应答</translation>
     </message>
     <message>
         <source>clock</source>
-        <translation type="unfinished"></translation>
+        <translation>时钟</translation>
     </message>
     <message>
         <source>thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图</translation>
     </message>
     <message>
         <source>log folder</source>
-        <translation type="unfinished"></translation>
+        <translation>日志文件夹</translation>
     </message>
     <message>
         <source>cache folder</source>
-        <translation type="unfinished"></translation>
+        <translation>缓存文件夹</translation>
     </message>
     <message>
         <source>%1 cannot be written to: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入 %1：%2</translation>
     </message>
     <message>
         <source>Check the rights of the folder and the space on its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查文件夹的权限和磁盘空间。</translation>
     </message>
     <message>
         <source>not checked offline</source>
-        <translation type="unfinished"></translation>
+        <translation>离线时不检查</translation>
     </message>
     <message>
         <source>a proxy looks host names up</source>
-        <translation type="unfinished"></translation>
+        <translation>由代理解析主机名</translation>
     </message>
     <message>
         <source>certificate accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>证书有效</translation>
     </message>
     <message>
         <source>not needed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>在本机上不需要</translation>
     </message>
     <message>
         <source>The connection is not encrypted; others can read the token.</source>
-        <translation type="unfinished"></translation>
+        <translation>连接未加密；他人可能读取令牌。</translation>
     </message>
     <message>
         <source>Use an https address if the server has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>如果服务器有 https 地址，请使用它。</translation>
     </message>
     <message>
         <source>not checked because of the fault below</source>
-        <translation type="unfinished"></translation>
+        <translation>因下面的故障未检查</translation>
     </message>
     <message>
         <source>token accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>令牌有效</translation>
     </message>
     <message>
         <source>%1 projects</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 个项目</translation>
     </message>
     <message>
         <source>the server does not tell its time</source>
-        <translation type="unfinished"></translation>
+        <translation>服务器未告知其时间</translation>
     </message>
     <message>
-        <source>%1 s apart from the server&apos;s</source>
-        <translation type="unfinished"></translation>
+        <source>%1 s apart from the server's</source>
+        <translation>与服务器相差 %1 秒</translation>
     </message>
     <message>
-        <source>Set this computer&apos;s clock; sign-in and certificates depend on it.</source>
-        <translation type="unfinished"></translation>
+        <source>Set this computer's clock; sign-in and certificates depend on it.</source>
+        <translation>请校正本机时钟；登录和证书都依赖它。</translation>
     </message>
     <message>
         <source>no component with a thumbnail to try</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可供尝试的带缩略图的构件</translation>
     </message>
 </context>
 <context>
@@ -223,7 +223,7 @@
         <translation>当前环境没有配置服务器地址。</translation>
     </message>
     <message>
-        <source>Check the environment name and the environment files in the application folder; &quot;nuq doctor&quot; checks them one by one.</source>
+        <source>Check the environment name and the environment files in the application folder; "nuq doctor" checks them one by one.</source>
         <translation>请检查环境名称和应用程序文件夹中的环境文件；“nuq doctor”会逐一检查。</translation>
     </message>
     <message>
@@ -247,7 +247,7 @@
         <translation>找不到主机名 {host}。</translation>
     </message>
     <message>
-        <source>Check the spelling of the address and the network&apos;s name service.</source>
+        <source>Check the spelling of the address and the network's name service.</source>
         <translation>请检查地址拼写和网络的域名服务。</translation>
     </message>
     <message>
@@ -319,7 +319,7 @@
         <translation>{host} 的证书已过期。</translation>
     </message>
     <message>
-        <source>Check this computer&apos;s clock; if it is right, the server needs a new certificate.</source>
+        <source>Check this computer's clock; if it is right, the server needs a new certificate.</source>
         <translation>请检查本机时钟；如果时钟正确，服务器需要新的证书。</translation>
     </message>
     <message>
@@ -327,7 +327,7 @@
         <translation>{host} 的证书尚未生效。</translation>
     </message>
     <message>
-        <source>Most likely this computer&apos;s clock is slow: set it right.</source>
+        <source>Most likely this computer's clock is slow: set it right.</source>
         <translation>很可能是本机时钟慢了：请校正时钟。</translation>
     </message>
     <message>
@@ -343,7 +343,7 @@
         <translation>{host} 的证书来自本机不认识的颁发机构。</translation>
     </message>
     <message>
-        <source>Add the authority&apos;s certificate to the trusted ones (SSL_CERT_FILE).</source>
+        <source>Add the authority's certificate to the trusted ones (SSL_CERT_FILE).</source>
         <translation>请把该颁发机构的证书加入受信任的证书（SSL_CERT_FILE）。</translation>
     </message>
     <message>
@@ -359,7 +359,7 @@
         <translation>您尚未登录，或登录已过期。</translation>
     </message>
     <message>
-        <source>Provide a valid token (NUQ_TOKEN or NUQ_TOKEN_FILE; NUQ_TOKEN_QA for the environment &quot;qa&quot;).</source>
+        <source>Provide a valid token (NUQ_TOKEN or NUQ_TOKEN_FILE; NUQ_TOKEN_QA for the environment "qa").</source>
         <translation>请提供有效的令牌（NUQ_TOKEN 或 NUQ_TOKEN_FILE；“qa”环境用 NUQ_TOKEN_QA）。</translation>
     </message>
     <message>
@@ -557,7 +557,7 @@
     <message>
         <source>%1 %2</source>
         <comment>what failed, then why</comment>
-        <extracomment>joins &quot;what failed&quot; and &quot;why&quot;; Chinese needs no blank between two sentences</extracomment>
+        <extracomment>joins "what failed" and "why"; Chinese needs no blank between two sentences</extracomment>
         <translation>%1%2</translation>
     </message>
 </context>

@@ -19,14 +19,19 @@ namespace {
 
 constexpr std::size_t kBytesOfCategory = 180;
 
-void WriteCategories(JsonWriter& json, const CategoryTree::Categories& categories, const QString& keyword)
+void WriteCategories(
+    JsonWriter& json, const CategoryTree::Categories& categories, const QString& keyword, bool isService)
 {
     json.Reserve(categories.size() * kBytesOfCategory + 100);
     json.BeginObject();
     json.Key("categories");
     json.BeginArray(true);
-    for (const auto& category : categories)
-        WriteCategory(json, *category);
+    for (const auto& category : categories) {
+        if (isService)
+            WriteServiceCategory(json, *category);
+        else
+            WriteCategory(json, *category);
+    }
     json.EndArray();
     json.Member("keyword", keyword);
     json.Member("schema", kSchema);
@@ -46,19 +51,22 @@ void WriteTree(JsonWriter& json, const CategoryTree& tree, const QString& keywor
     json.EndObject();
 }
 
-void Show(Session& session, CategoryTree::Categories categories, const QString& keyword, bool isTree)
+void ShowTree(Session& session, CategoryTree::Categories categories, const QString& keyword)
 {
+    const CategoryTree tree(std::move(categories));
+    if (!session.Options().json)
+        return session.Out().Write(CategoryTreeText(session, tree));
     JsonWriter json;
-    if (isTree) {
-        const CategoryTree tree(std::move(categories));
-        if (!session.Options().json)
-            return session.Out().Write(CategoryTreeText(session, tree));
-        WriteTree(json, tree, keyword);
-    } else {
-        if (!session.Options().json)
-            return session.Out().Write(CategoryTable(session, categories));
-        WriteCategories(json, categories, keyword);
-    }
+    WriteTree(json, tree, keyword);
+    session.WriteDocument(json);
+}
+
+void ShowList(Session& session, const CategoryTree::Categories& categories, const QString& keyword, bool isService)
+{
+    if (!session.Options().json)
+        return session.Out().Write(CategoryTable(session, categories));
+    JsonWriter json;
+    WriteCategories(json, categories, keyword, isService);
     session.WriteDocument(json);
 }
 
@@ -121,7 +129,10 @@ ExitCode CategoriesCommand::Run(Session& session)
     auto categories = request->TakeResult();
     if (categories.empty())
         session.Note(Say(QT_TRANSLATE_NOOP("Messages", "The catalogue has no categories.")));
-    Show(session, std::move(categories), m_options.keyword, m_options.tree);
+    if (m_options.tree)
+        ShowTree(session, std::move(categories), m_options.keyword);
+    else
+        ShowList(session, categories, m_options.keyword, false);
     return ExitCode::Done;
 }
 
@@ -134,7 +145,7 @@ ExitCode CategoriesCommand::RunService(Session& session)
     CategoryTree::Categories categories;
     switch (AskPublicCategoryService(session, m_options.keyword, categories)) {
     case ServiceAnswer::Categories:
-        Show(session, std::move(categories), m_options.keyword, false);
+        ShowList(session, categories, m_options.keyword, true);
         return ExitCode::Done;
     case ServiceAnswer::TimedOut:
         return session.Fail(ServiceError(ErrorCode::NetworkTimeout));

@@ -5,6 +5,10 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace nuq {
 
 FieldList ComponentFields(const tarnnuq::IDetailedProjectComponent& component)
@@ -21,7 +25,12 @@ FieldList ComponentFields(const tarnnuq::IDetailedProjectComponent& component)
         label.clear();
     }
     label = Title(QT_TRANSLATE_NOOP("Titles", "Thumbnails"));
-    for (const auto& [size, urls] : component.Thumbnails) {
+    using Entry = std::pair<std::wstring, std::vector<std::wstring>>;
+    std::vector<Entry> thumbnails(component.Thumbnails.begin(), component.Thumbnails.end());
+    // The record keeps the sizes as texts in the order of texts, 128 before 64.
+    std::stable_sort(thumbnails.begin(), thumbnails.end(),
+        [](const Entry& one, const Entry& other) { return one.first.size() < other.first.size(); });
+    for (const auto& [size, urls] : thumbnails) {
         for (const std::wstring& url : urls) {
             fields.Add(label, VisibleText(size) + " px  " + VisibleText(url));
             label.clear();

@@ -55,6 +55,17 @@ void WriteCategory(JsonWriter& json, const tarnnuq::ICategory& category, std::op
     json.EndObject();
 }
 
+void WriteServiceCategory(JsonWriter& json, const tarnnuq::ICategory& category)
+{
+    json.BeginObject();
+    json.Member("count", category.Count);
+    WriteId(json, "id", category.Id);
+    json.Member("name", category.Name);
+    WriteId(json, "parentId", category.ParentId);
+    json.Member("weight", category.Weight);
+    json.EndObject();
+}
+
 void WriteComponent(JsonWriter& json, const tarnnuq::IProjectComponent& component)
 {
     json.BeginObject();

@@ -18,6 +18,9 @@ namespace nuq {
 /** @param depth number of ancestors in the tree, when the list is a tree */
 void WriteCategory(JsonWriter& json, const tarnnuq::ICategory& category, std::optional<int> depth = std::nullopt);
 
+/** A category of the public category service, which knows neither codes nor leaves. */
+void WriteServiceCategory(JsonWriter& json, const tarnnuq::ICategory& category);
+
 void WriteComponent(JsonWriter& json, const tarnnuq::IProjectComponent& component);
 
 void WriteComponentDetail(JsonWriter& json, const tarnnuq::IDetailedProjectComponent& component);

@@ -7,8 +7,11 @@
 #include "Commands/Texts.h"
 #include "Output/VisibleText.h"
 #include "Program/Session.h"
+#include "Records/IDetailedProjectComponent.h"
+#include "Records/IParameter.h"
+#include "Records/ISpecification.h"
 
-#include <optional>
+#include <memory>
 
 namespace nuq {
 
@@ -18,7 +21,8 @@ using componentlibrary::ComponentQuery;
 namespace {
 
 constexpr int kComponents = 5;
-constexpr std::size_t kParameters = 10;
+constexpr std::size_t kFamilyTypes = 6;
+constexpr std::size_t kParameters = 8;
 
 /// Tells the tour step by step: to people at once, as a document at its end.
 class Guide
@@ -83,6 +87,136 @@ const tarnnuq::ICategory* RichestLeaf(const CategoryTree& tree)
     return best;
 }
 
+/// A family type with its given values only, and not too many of them.
+std::shared_ptr<tarnnuq::ISpecification> Abridged(const tarnnuq::ISpecification& specification)
+{
+    auto abridged = std::make_shared<tarnnuq::ISpecification>();
+    abridged->Name = specification.Name;
+    for (const auto& [name, parameter] : specification.Parameters) {
+        if (parameter != nullptr && parameter->IsValueSpecified && abridged->Parameters.size() < kParameters)
+            abridged->Parameters.emplace(name, parameter);
+    }
+    return abridged;
+}
+
+/// The steps one after the other; each returns whether the tour goes on.
+class Tour
+{
+public:
+    explicit Tour(Session& session) : m_session(session), m_guide(session) {}
+
+    ExitCode Run()
+    {
+        if (!ShowTree() || !ShowComponents() || !ShowComponent() || !ShowValues() || !ShowSearch())
+            return m_code;
+        m_guide.End();
+        m_session.Note(Say(QT_TRANSLATE_NOOP("Messages",
+            "Next: \"nuq --help\" for all commands, \"--json\" for scripts, \"nuq doctor\" if something fails.")));
+        return ExitCode::Done;
+    }
+
+private:
+    bool Await(componentlibrary::RequestBase& request)
+    {
+        if (m_session.Await(request))
+            return true;
+        m_code = m_session.Fail(request.Error());
+        return false;
+    }
+
+    bool ShowTree()
+    {
+        const auto request = m_session.Catalogue().Categories(QString());
+        if (!Await(*request))
+            return false;
+        const CategoryTree tree(request->TakeResult());
+        m_guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "The catalogue has %1 categories; these are the first level"))
+                         .arg(tree.Size()),
+            "nuq categories --tree", CategoryTreeText(m_session, tree, 0));
+        if (const tarnnuq::ICategory* category = RichestLeaf(tree)) {
+            m_categoryCode = QString::fromStdWString(category->Code);
+            m_categoryName = QString::fromStdWString(category->Name);
+        }
+        return true;
+    }
+
+    bool ShowComponents()
+    {
+        ComponentQuery query;
+        query.categoryCode = m_categoryCode;
+        query.pageSize = kComponents;
+        const auto request = m_session.Catalogue().ComponentPage(query);
+        if (!Await(*request))
+            return false;
+        const auto& page = request->Result();
+        Table table = ComponentTable(m_session);
+        AddComponents(table, page.List);
+        m_guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "%1: the first of %2 components"))
+                         .arg(m_categoryName, QString::number(page.TotalCount)),
+            "nuq components --category " + Quoted(m_categoryCode) + " --page-size " + std::to_string(kComponents),
+            table.Take());
+        if (!page.List.empty())
+            m_componentId = QString::fromStdWString(page.List.front()->Id);
+        return true;
+    }
+
+    bool ShowComponent()
+    {
+        if (m_componentId.isEmpty())
+            return true;
+        const auto request = m_session.Catalogue().Component(m_componentId, QString());
+        if (!Await(*request))
+            return false;
+        tarnnuq::IDetailedProjectComponent component = *request->Result();
+        if (!component.FamilyTypeNames.empty())
+            m_familyType = QString::fromStdWString(component.FamilyTypeNames.front());
+        if (component.FamilyTypeNames.size() > kFamilyTypes) {
+            component.FamilyTypeNames.resize(kFamilyTypes);
+            component.FamilyTypeNames.push_back(L"…");
+        }
+        m_guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "One component with its family types and pictures")),
+            "nuq component " + Quoted(m_componentId), ComponentFields(component).Text(m_session.Look()));
+        return true;
+    }
+
+    bool ShowValues()
+    {
+        if (m_familyType.isEmpty())
+            return true;
+        const auto request = m_session.Catalogue().Specification(m_componentId, m_familyType, QString());
+        if (!Await(*request))
+            return false;
+        m_guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "Some of its values as %1")).arg(m_familyType),
+            "nuq specifications " + Quoted(m_componentId) + " --type " + Quoted(m_familyType),
+            SpecificationTable(m_session, {Abridged(*request->Result())}));
+        return true;
+    }
+
+    bool ShowSearch()
+    {
+        ComponentQuery query;
+        query.keyword = QStringLiteral("DN50");
+        query.pageSize = kComponents;
+        const auto request = m_session.Catalogue().ComponentPage(query);
+        if (!Await(*request))
+            return false;
+        Table table = ComponentTable(m_session);
+        AddComponents(table, request->Result().List);
+        m_guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "A search: \"%1\" is found in %2 components"))
+                         .arg(query.keyword, QString::number(request->Result().TotalCount)),
+            "nuq components --keyword DN50 --page-size " + std::to_string(kComponents), table.Take());
+        return true;
+    }
+
+    Session& m_session;
+    Guide m_guide;
+    ExitCode m_code = ExitCode::Failed;
+    QString m_categoryCode;
+    QString m_categoryName;
+    QString m_componentId;
+    QString m_familyType;
+};
+
 } // namespace
 
 const CommandSpec& TourCommand::Spec() const
@@ -107,55 +241,8 @@ void TourCommand::Bind(OptionBinder&) {}
 
 ExitCode TourCommand::Run(Session& session)
 {
-    Guide guide(session);
-    const auto categories = session.Catalogue().Categories(QString());
-    if (!session.Await(*categories))
-        return session.Fail(categories->Error());
-    const CategoryTree tree(categories->TakeResult());
-    guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "1. The catalogue: %1 categories")).arg(tree.Size()),
-        "nuq categories --tree", CategoryTreeText(session, tree, 0));
-    const tarnnuq::ICategory* category = RichestLeaf(tree);
-    if (category == nullptr)
-        return guide.End(), ExitCode::Done;
-
-    ComponentQuery query;
-    query.categoryCode = QString::fromStdWString(category->Code);
-    query.pageSize = kComponents;
-    const auto page = session.Catalogue().ComponentPage(query);
-    if (!session.Await(*page))
-        return session.Fail(page->Error());
-    Table table = ComponentTable(session);
-    AddComponents(table, page->Result().List);
-    guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "2. %1: %2 components, the first %3"))
-                   .arg(QString::fromStdWString(category->Name))
-                   .arg(page->Result().TotalCount)
-                   .arg(page->Result().List.size()),
-        "nuq components --category " + Quoted(query.categoryCode) + " --page-size " + std::to_string(kComponents),
-        table.Take());
-    if (page->Result().List.empty())
-        return guide.End(), ExitCode::Done;
-
-    const QString id = QString::fromStdWString(page->Result().List.front()->Id);
-    const auto component = session.Catalogue().Component(id, QString());
-    if (!session.Await(*component))
-        return session.Fail(component->Error());
-    guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "3. One of them")), "nuq component " + Quoted(id),
-        ComponentFields(*component->Result()).Text(session.Look()));
-
-    const auto& types = component->Result()->FamilyTypeNames;
-    if (!types.empty()) {
-        const QString type = QString::fromStdWString(types.front());
-        const auto specification = session.Catalogue().Specification(id, type, QString());
-        if (!session.Await(*specification))
-            return session.Fail(specification->Error());
-        guide.Tell(Say(QT_TRANSLATE_NOOP("Messages", "4. Its values as %1")).arg(type),
-            "nuq specifications " + Quoted(id) + " --type " + Quoted(type),
-            SpecificationTable(session, {specification->Result()}));
-    }
-    guide.End();
-    session.Note(Say(QT_TRANSLATE_NOOP("Messages",
-        "Next: \"nuq --help\" for all commands, \"--json\" for scripts, \"nuq doctor\" if something fails.")));
-    return ExitCode::Done;
+    Tour tour(session);
+    return tour.Run();
 }
 
 } // namespace nuq

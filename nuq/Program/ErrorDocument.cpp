@@ -30,6 +30,8 @@ void WriteDetails(JsonWriter& json, const ErrorInfo& error)
     WriteTextIfAny(json, "hint", ErrorHint(error));
     json.Member("httpStatus", error.httpStatus);
     WriteTextIfAny(json, "original", error.original);
+    if (error.request != 0)
+        json.Member("request", error.request);
     if (error.retryAt.isValid())
         json.Member("retryAt", error.retryAt.toUTC().toString(Qt::ISODate));
     WriteTextIfAny(json, "serverCode", error.serverCode);
@@ -100,6 +102,8 @@ QStringList ErrorDetails(const ErrorInfo& error)
         lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "original text: %1"), error.original);
     lines << error.evidence;
     lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "tries: %1"), QString::number(error.tries));
+    if (error.request != 0)
+        lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "number in the log: %1"), QString::number(error.request));
     return lines;
 }
 

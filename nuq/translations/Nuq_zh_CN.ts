@@ -5,733 +5,741 @@
     <name>CommandLine</name>
     <message>
         <source>The value of %1 is not valid UTF-8.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的值不是有效的 UTF-8。</translation>
     </message>
     <message>
-        <source>The value of %1 has to be a whole number from %2 to %3, but it is &quot;%4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>The value of %1 has to be a whole number from %2 to %3, but it is "%4".</source>
+        <translation>%1 的值必须是 %2 到 %3 的整数，而给出的是“%4”。</translation>
     </message>
     <message>
-        <source>The value of %1 has to be one of %2, but it is &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>The value of %1 has to be one of %2, but it is "%3".</source>
+        <translation>%1 的值必须是 %2 之一，而给出的是“%3”。</translation>
     </message>
     <message>
         <source>%1 must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不能为空。</translation>
     </message>
     <message>
-        <source>%1 Did you mean &quot;%2&quot;?</source>
+        <source>%1 Did you mean "%2"?</source>
         <extracomment>%1 is a complaint, %2 what the user most likely meant</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1是否想用“%2”？</translation>
     </message>
     <message>
-        <source>There is no option &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>There is no option "%1".</source>
+        <translation>没有选项“%1”。</translation>
     </message>
     <message>
-        <source>The command &quot;%1&quot; takes no further argument &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>The command "%1" takes no further argument "%2".</source>
+        <translation>命令“%1”不接受多余的参数“%2”。</translation>
     </message>
     <message>
-        <source>There is no command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>There is no command "%1".</source>
+        <translation>没有命令“%1”。</translation>
     </message>
     <message>
-        <source>The command &quot;%1&quot; needs %2.</source>
-        <translation type="unfinished"></translation>
+        <source>The command "%1" needs %2.</source>
+        <translation>命令“%1”需要 %2。</translation>
     </message>
     <message>
         <source>The option %1 needs a value.</source>
-        <translation type="unfinished"></translation>
+        <translation>选项 %1 需要一个值。</translation>
     </message>
     <message>
         <source>The command line cannot be understood: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法理解命令行：%1。</translation>
     </message>
 </context>
 <context>
     <name>CommandTable</name>
     <message>
         <source>Show this help and end</source>
-        <translation type="unfinished"></translation>
+        <translation>显示此帮助并结束</translation>
     </message>
     <message>
         <source>Show the version and end</source>
-        <translation type="unfinished"></translation>
+        <translation>显示版本并结束</translation>
     </message>
     <message>
         <source>Write the result as one JSON document</source>
-        <translation type="unfinished"></translation>
+        <translation>把结果写成一个 JSON 文档</translation>
     </message>
     <message>
         <source>Write errors only, no notes and no hints</source>
-        <translation type="unfinished"></translation>
+        <translation>只显示错误，不显示备注和提示</translation>
     </message>
     <message>
         <source>Show details of errors; twice: the log as well</source>
-        <translation type="unfinished"></translation>
+        <translation>显示错误的详细信息；用两次则同时显示日志</translation>
     </message>
     <message>
         <source>Language of texts and names; by default that of the environment</source>
-        <translation type="unfinished"></translation>
+        <translation>文字和名称的语言；默认取自系统环境</translation>
     </message>
     <message>
         <source>Use colours; auto means: only on a terminal, and not when NO_COLOR is set</source>
-        <translation type="unfinished"></translation>
+        <translation>使用颜色；auto 表示仅在终端上且未设置 NO_COLOR 时</translation>
     </message>
     <message>
         <source>Time limit of one request, 1 to 3600; by default 30</source>
-        <translation type="unfinished"></translation>
+        <translation>一次请求的时间限制，1 到 3600；默认 30</translation>
     </message>
     <message>
         <source>Never ask a question; fail instead</source>
-        <translation type="unfinished"></translation>
+        <translation>从不提问，改为失败</translation>
     </message>
     <message>
         <source>Open no network connection; commands that need one fail</source>
-        <translation type="unfinished"></translation>
+        <translation>不打开网络连接；需要连接的命令会失败</translation>
     </message>
     <message>
         <source>Application folder with the environment files; by default NUQ_APP_DIR or the installed one</source>
-        <translation type="unfinished"></translation>
+        <translation>含环境文件的应用程序文件夹；默认为 NUQ_APP_DIR 或安装的文件夹</translation>
     </message>
     <message>
         <source>Environment to work in; by default NUQ_ENVIRONMENT, the settings, or prod</source>
-        <translation type="unfinished"></translation>
+        <translation>工作环境；默认为 NUQ_ENVIRONMENT、设置或 prod</translation>
     </message>
     <message>
         <source>look around</source>
-        <translation type="unfinished"></translation>
+        <translation>四处看看</translation>
     </message>
     <message>
         <source>the category tree with counts</source>
-        <translation type="unfinished"></translation>
+        <translation>带数量的类别树</translation>
     </message>
     <message>
         <source>the first components of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>某类别的前几个构件</translation>
     </message>
     <message>
         <source>every component that matches, for a script</source>
-        <translation type="unfinished"></translation>
+        <translation>所有匹配的构件，供脚本使用</translation>
     </message>
     <message>
         <source>find out why something does not work</source>
-        <translation type="unfinished"></translation>
+        <translation>查明为何出错</translation>
     </message>
     <message>
         <source>List the categories with the number of their components</source>
-        <translation type="unfinished"></translation>
+        <translation>列出类别及其构件数量</translation>
     </message>
     <message>
         <source>The count of a category covers its own components and those of the categories below it, each once.</source>
-        <translation type="unfinished"></translation>
+        <translation>类别的数量包括它自己的构件和下级类别的构件，每个只计一次。</translation>
     </message>
     <message>
         <source>Count only components that match this text</source>
-        <translation type="unfinished"></translation>
+        <translation>只计匹配此文字的构件</translation>
     </message>
     <message>
         <source>Show the categories as a tree</source>
-        <translation type="unfinished"></translation>
+        <translation>以树形显示类别</translation>
     </message>
     <message>
-        <source>Ask the library&apos;s public category service, which knows no codes and reports no errors</source>
-        <translation type="unfinished"></translation>
+        <source>Ask the library's public category service, which knows no codes and reports no errors</source>
+        <translation>询问程序库的公共类别服务，它不提供编码，也不报告错误</translation>
     </message>
     <message>
         <source>the whole tree</source>
-        <translation type="unfinished"></translation>
+        <translation>整棵树</translation>
     </message>
     <message>
         <source>where pumps are found</source>
-        <translation type="unfinished"></translation>
+        <translation>泵在哪里</translation>
     </message>
     <message>
         <source>all codes, for a script</source>
-        <translation type="unfinished"></translation>
+        <translation>所有编码，供脚本使用</translation>
     </message>
     <message>
         <source>Show one component with its family types and thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>显示一个构件及其族类型和缩略图</translation>
     </message>
     <message>
         <source>The id of the component</source>
-        <translation type="unfinished"></translation>
+        <translation>构件的编号</translation>
     </message>
     <message>
-        <source>The component is one of this project&apos;s library</source>
-        <translation type="unfinished"></translation>
+        <source>The component is one of this project's library</source>
+        <translation>该构件属于此项目的库</translation>
     </message>
     <message>
         <source>one component of the public catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>公共目录中的一个构件</translation>
     </message>
     <message>
         <source>the same for a script</source>
-        <translation type="unfinished"></translation>
+        <translation>同上，供脚本使用</translation>
     </message>
     <message>
         <source>List components of a category, a search or a project</source>
-        <translation type="unfinished"></translation>
+        <translation>列出类别、搜索或项目的构件</translation>
     </message>
     <message>
         <source>Without --all one page is shown. With --all --json --stream each line is one JSON document, the last one a summary or the error, and memory stays small however long the list is.</source>
-        <translation type="unfinished"></translation>
+        <translation>不带 --all 时显示一页。带 --all --json --stream 时每行是一个 JSON 文档，最后一行是汇总或错误，无论列表多长，占用的内存都很小。</translation>
     </message>
     <message>
         <source>Only components of this category and those below it</source>
-        <translation type="unfinished"></translation>
+        <translation>只列此类别及其下级类别的构件</translation>
     </message>
     <message>
         <source>Only components that match this text</source>
-        <translation type="unfinished"></translation>
+        <translation>只列匹配此文字的构件</translation>
     </message>
     <message>
         <source>The library of this project instead of the public catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>用此项目的库代替公共目录</translation>
     </message>
     <message>
         <source>Page to show, from 1; by default 1</source>
-        <translation type="unfinished"></translation>
+        <translation>要显示的页，从 1 开始；默认 1</translation>
     </message>
     <message>
         <source>Components of a page, 1 to 200; by default 20, with --all 200</source>
-        <translation type="unfinished"></translation>
+        <translation>每页构件数，1 到 200；默认 20，带 --all 时 200</translation>
     </message>
     <message>
         <source>List all pages</source>
-        <translation type="unfinished"></translation>
+        <translation>列出所有页</translation>
     </message>
     <message>
         <source>With --all --json: one JSON document a line, as soon as it is there</source>
-        <translation type="unfinished"></translation>
+        <translation>与 --all --json 同用：每行一个 JSON 文档，到达即输出</translation>
     </message>
     <message>
         <source>the first page of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>某类别的第一页</translation>
     </message>
     <message>
         <source>the second page of a search</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索的第二页</translation>
     </message>
     <message>
         <source>the beginning of the whole catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>整个目录的开头</translation>
     </message>
     <message>
         <source>Check settings, addresses, network, sign-in and folders, and say what to mend</source>
-        <translation type="unfinished"></translation>
+        <translation>检查设置、地址、网络、登录和文件夹，并说明如何修复</translation>
     </message>
     <message>
         <source>Ends with exit code 7 when a check found a fault. Nothing is changed on the server, and no secret is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>发现故障时以退出码 7 结束。不改变服务器上的任何内容，也不显示任何机密。</translation>
     </message>
     <message>
         <source>one line a check</source>
-        <translation type="unfinished"></translation>
+        <translation>每项检查一行</translation>
     </message>
     <message>
         <source>for support</source>
-        <translation type="unfinished"></translation>
+        <translation>供技术支持使用</translation>
     </message>
     <message>
         <source>Show the environment: addresses, folders, where the sign-in comes from</source>
-        <translation type="unfinished"></translation>
+        <translation>显示环境：地址、文件夹、登录来源</translation>
     </message>
     <message>
-        <source>Opens no connection and shows no token; &quot;nuq doctor&quot; checks what is shown here.</source>
-        <translation type="unfinished"></translation>
+        <source>Opens no connection and shows no token; "nuq doctor" checks what is shown here.</source>
+        <translation>不打开连接，也不显示令牌；“nuq doctor”会检查这里显示的内容。</translation>
     </message>
     <message>
         <source>the current environment</source>
-        <translation type="unfinished"></translation>
+        <translation>当前环境</translation>
     </message>
     <message>
         <source>another one</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个环境</translation>
     </message>
     <message>
         <source>Tell in which projects a public component is already used</source>
-        <translation type="unfinished"></translation>
+        <translation>说明公共构件已用于哪些项目</translation>
     </message>
     <message>
-        <source>The answer &quot;no&quot; is an answer: the exit code is 0 then, too.</source>
-        <translation type="unfinished"></translation>
+        <source>The answer "no" is an answer: the exit code is 0 then, too.</source>
+        <translation>“否”也是回答：此时退出码同样为 0。</translation>
     </message>
     <message>
         <source>The id of the public component</source>
-        <translation type="unfinished"></translation>
+        <translation>公共构件的编号</translation>
     </message>
     <message>
         <source>Ask only about this project; by default about all</source>
-        <translation type="unfinished"></translation>
+        <translation>只询问此项目；默认询问所有项目</translation>
     </message>
     <message>
         <source>one line a project</source>
-        <translation type="unfinished"></translation>
+        <translation>每个项目一行</translation>
     </message>
     <message>
         <source>true or false, for a script</source>
-        <translation type="unfinished"></translation>
+        <translation>true 或 false，供脚本使用</translation>
     </message>
     <message>
         <source>List the collaboration projects</source>
-        <translation type="unfinished"></translation>
+        <translation>列出协作项目</translation>
     </message>
     <message>
         <source>The ids are what the option --project of other commands takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他命令的 --project 选项使用这些编号。</translation>
     </message>
     <message>
         <source>ids and names</source>
-        <translation type="unfinished"></translation>
+        <translation>编号和名称</translation>
     </message>
     <message>
         <source>Show the properties that components of a category have</source>
-        <translation type="unfinished"></translation>
+        <translation>显示某类别构件所具有的属性</translation>
     </message>
     <message>
         <source>The code of the category</source>
-        <translation type="unfinished"></translation>
+        <translation>类别的编码</translation>
     </message>
     <message>
         <source>Take the property template of the cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>使用云端的属性模板</translation>
     </message>
     <message>
         <source>the template of an end category</source>
-        <translation type="unfinished"></translation>
+        <translation>末级类别的模板</translation>
     </message>
     <message>
         <source>Show the family types of a component with their values</source>
-        <translation type="unfinished"></translation>
+        <translation>显示构件的族类型及其参数值</translation>
     </message>
     <message>
-        <source>A value that the family type does not give is shown as &quot;-&quot;.</source>
-        <translation type="unfinished"></translation>
+        <source>A value that the family type does not give is shown as "-".</source>
+        <translation>族类型未给出的值显示为“-”。</translation>
     </message>
     <message>
         <source>Only the family type of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>只显示此名称的族类型</translation>
     </message>
     <message>
         <source>all family types</source>
-        <translation type="unfinished"></translation>
+        <translation>所有族类型</translation>
     </message>
     <message>
         <source>one of them</source>
-        <translation type="unfinished"></translation>
+        <translation>其中之一</translation>
     </message>
     <message>
         <source>Look around: categories, components, one component, its values</source>
-        <translation type="unfinished"></translation>
+        <translation>四处看看：类别、构件、一个构件及其参数值</translation>
     </message>
     <message>
         <source>the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>导览</translation>
     </message>
     <message>
         <source>the tour in Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>中文导览</translation>
     </message>
     <message>
         <source>Show the versions of the program and of what it runs on</source>
-        <translation type="unfinished"></translation>
+        <translation>显示程序及其运行环境的版本</translation>
     </message>
     <message>
         <source>for a report</source>
-        <translation type="unfinished"></translation>
+        <translation>用于报告</translation>
     </message>
 </context>
 <context>
     <name>ErrorDetails</name>
     <message>
         <source>code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>代码：%1</translation>
     </message>
     <message>
         <source>address: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>地址：%1</translation>
     </message>
     <message>
         <source>HTTP status: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP 状态：%1</translation>
     </message>
     <message>
-        <source>the server&apos;s code: %1</source>
-        <translation type="unfinished"></translation>
+        <source>the server's code: %1</source>
+        <translation>服务器的代码：%1</translation>
     </message>
     <message>
-        <source>the server&apos;s message: %1</source>
-        <translation type="unfinished"></translation>
+        <source>the server's message: %1</source>
+        <translation>服务器的消息：%1</translation>
     </message>
     <message>
         <source>original text: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>原文：%1</translation>
     </message>
     <message>
         <source>tries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>尝试次数：%1</translation>
+    </message>
+    <message>
+        <source>number in the log: %1</source>
+        <translation>日志中的编号：%1</translation>
     </message>
 </context>
 <context>
     <name>HelpText</name>
     <message>
         <source>nuq - the component library in the terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>nuq - 终端里的构件库</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>示例</translation>
     </message>
     <message>
         <source>Usage</source>
-        <translation type="unfinished"></translation>
+        <translation>用法</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>命令</translation>
     </message>
     <message>
         <source>Options of all commands</source>
-        <translation type="unfinished"></translation>
+        <translation>所有命令的选项</translation>
     </message>
     <message>
-        <source>&quot;nuq COMMAND --help&quot; shows the options of a command.</source>
-        <translation type="unfinished"></translation>
+        <source>"nuq COMMAND --help" shows the options of a command.</source>
+        <translation>“nuq 命令 --help”显示该命令的选项。</translation>
     </message>
     <message>
         <source>Arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>参数</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>选项</translation>
     </message>
 </context>
 <context>
     <name>Messages</name>
     <message>
         <source>--tree and --service cannot be used together.</source>
-        <translation type="unfinished"></translation>
+        <translation>--tree 和 --service 不能同时使用。</translation>
     </message>
     <message>
         <source>The catalogue has no categories.</source>
-        <translation type="unfinished"></translation>
+        <translation>目录中没有类别。</translation>
     </message>
     <message>
         <source>The public category service gave no categories, and it does not say why.</source>
-        <translation type="unfinished"></translation>
+        <translation>公共类别服务没有给出类别，也没有说明原因。</translation>
     </message>
     <message>
         <source>Without --service the program names the reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>不带 --service 时程序会说明原因。</translation>
     </message>
     <message>
         <source>There are no components here.</source>
-        <translation type="unfinished"></translation>
+        <translation>这里没有构件。</translation>
     </message>
     <message>
-        <source>No component matches &quot;%1&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <source>No component matches "%1" here.</source>
+        <translation>这里没有与“%1”匹配的构件。</translation>
     </message>
     <message>
         <source>The last page is page %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>最后一页是第 %1 页。</translation>
     </message>
     <message>
         <source>%1-%2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1-%2 个，共 %3 个</translation>
     </message>
     <message>
         <source>The catalogue changed while it was listed; list again to be sure that nothing is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>列出期间目录发生了变化；请重新列出，以确保没有遗漏。</translation>
     </message>
     <message>
         <source>--all and --page cannot be used together.</source>
-        <translation type="unfinished"></translation>
+        <translation>--all 和 --page 不能同时使用。</translation>
     </message>
     <message>
         <source>--stream needs --all.</source>
-        <translation type="unfinished"></translation>
+        <translation>--stream 需要 --all。</translation>
     </message>
     <message>
         <source>The folder %1 (%2) does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹 %1（%2）不存在。</translation>
     </message>
     <message>
         <source>Correct --app-dir or NUQ_APP_DIR, or install the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>请更正 --app-dir 或 NUQ_APP_DIR，或重新安装程序。</translation>
     </message>
     <message>
         <source>%1 (not there, defaults are used)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（不存在，使用默认值）</translation>
     </message>
     <message>
         <source>Copy what is worth keeping from the file that was set aside.</source>
-        <translation type="unfinished"></translation>
+        <translation>请从被搁置的文件中复制值得保留的内容。</translation>
     </message>
     <message>
         <source>Mend or remove the settings file.</source>
-        <translation type="unfinished"></translation>
+        <translation>请修复或删除设置文件。</translation>
     </message>
     <message>
         <source>Mend that source of the token; no other one is asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>请修复该令牌来源；不会询问其他来源。</translation>
     </message>
     <message>
         <source>No token is set up for this environment.</source>
-        <translation type="unfinished"></translation>
+        <translation>此环境没有设置令牌。</translation>
     </message>
     <message>
         <source>Set NUQ_TOKEN_QA or NUQ_TOKEN_QA_FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>请设置 NUQ_TOKEN_QA 或 NUQ_TOKEN_QA_FILE。</translation>
     </message>
     <message>
         <source>Set NUQ_TOKEN or NUQ_TOKEN_FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>请设置 NUQ_TOKEN 或 NUQ_TOKEN_FILE。</translation>
     </message>
     <message>
         <source>Let only yourself read the file (chmod 600).</source>
-        <translation type="unfinished"></translation>
+        <translation>请只允许自己读取该文件（chmod 600）。</translation>
     </message>
     <message>
         <source>Check the rights of the folder and the space on its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>请检查文件夹的权限和磁盘空间。</translation>
     </message>
     <message>
         <source>refused, because there is no usable token</source>
-        <translation type="unfinished"></translation>
+        <translation>被拒绝，因为没有可用的令牌</translation>
     </message>
     <message>
         <source>Everything is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>一切正常。</translation>
     </message>
     <message>
         <source>Faults: %1. Warnings: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>故障：%1。警告：%2。</translation>
     </message>
     <message>
-        <source>The command &quot;properties&quot; needs --cloud: this program has no local property database.</source>
-        <translation type="unfinished"></translation>
+        <source>The command "properties" needs --cloud: this program has no local property database.</source>
+        <translation>命令“properties”需要 --cloud：本程序没有本地属性数据库。</translation>
     </message>
     <message>
         <source>The category has no properties of its own; end categories have them.</source>
-        <translation type="unfinished"></translation>
+        <translation>该类别没有自己的属性；末级类别才有。</translation>
     </message>
     <message>
         <source>The component has no family types.</source>
-        <translation type="unfinished"></translation>
+        <translation>该构件没有族类型。</translation>
     </message>
     <message>
         <source>%1 of %2 components ...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2 个构件……</translation>
     </message>
     <message>
-        <source>1. The catalogue: %1 categories</source>
-        <translation type="unfinished"></translation>
+        <source>Next: "nuq --help" for all commands, "--json" for scripts, "nuq doctor" if something fails.</source>
+        <translation>接下来：“nuq --help”查看所有命令，“--json”用于脚本，出错时用“nuq doctor”。</translation>
     </message>
     <message>
-        <source>2. %1: %2 components, the first %3</source>
-        <translation type="unfinished"></translation>
+        <source>The catalogue has %1 categories; these are the first level</source>
+        <translation>目录有 %1 个类别；这是第一级</translation>
     </message>
     <message>
-        <source>3. One of them</source>
-        <translation type="unfinished"></translation>
+        <source>%1: the first of %2 components</source>
+        <translation>%1：共 %2 个构件中的前几个</translation>
     </message>
     <message>
-        <source>4. Its values as %1</source>
-        <translation type="unfinished"></translation>
+        <source>One component with its family types and pictures</source>
+        <translation>一个构件及其族类型和图片</translation>
     </message>
     <message>
-        <source>Next: &quot;nuq --help&quot; for all commands, &quot;--json&quot; for scripts, &quot;nuq doctor&quot; if something fails.</source>
-        <translation type="unfinished"></translation>
+        <source>Some of its values as %1</source>
+        <translation>它作为 %1 的部分参数值</translation>
+    </message>
+    <message>
+        <source>A search: "%1" is found in %2 components</source>
+        <translation>搜索：“%1”匹配 %2 个构件</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
-        <source>&quot;nuq --help&quot; shows what is possible.</source>
-        <translation type="unfinished"></translation>
+        <source>"nuq --help" shows what is possible.</source>
+        <translation>“nuq --help”显示可用的命令。</translation>
     </message>
     <message>
         <source>A command is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少命令。</translation>
     </message>
 </context>
 <context>
     <name>Session</name>
     <message>
         <source>The server cannot answer now; try %1 in %2 s ...</source>
-        <translation type="unfinished"></translation>
+        <translation>服务器暂时无法应答；%2 秒后第 %1 次尝试……</translation>
     </message>
     <message>
         <source>Loading ... %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在加载…… %1</translation>
     </message>
     <message>
         <source>Loading ... %1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>正在加载…… %1（%2 %）</translation>
     </message>
     <message>
         <source>Waiting for the server ...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待服务器……</translation>
     </message>
     <message>
         <source>The output could not be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入输出：%1。</translation>
     </message>
 </context>
 <context>
     <name>Titles</name>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>编号</translation>
     </message>
     <message>
         <source>CODE</source>
-        <translation type="unfinished"></translation>
+        <translation>编码</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>COUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>Id</source>
-        <translation type="unfinished"></translation>
+        <translation>编号</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>类别</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Family types</source>
-        <translation type="unfinished"></translation>
+        <translation>族类型</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图</translation>
     </message>
     <message>
         <source>CATEGORY</source>
-        <translation type="unfinished"></translation>
+        <translation>类别</translation>
     </message>
     <message>
         <source>VERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>STATUS</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>CHECK</source>
-        <translation type="unfinished"></translation>
+        <translation>检查项</translation>
     </message>
     <message>
         <source>FOUND</source>
-        <translation type="unfinished"></translation>
+        <translation>结果</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Environment</source>
-        <translation type="unfinished"></translation>
+        <translation>环境</translation>
     </message>
     <message>
         <source>Known environments</source>
-        <translation type="unfinished"></translation>
+        <translation>已知环境</translation>
     </message>
     <message>
         <source>Interface</source>
-        <translation type="unfinished"></translation>
+        <translation>接口</translation>
     </message>
     <message>
         <source>Static files</source>
-        <translation type="unfinished"></translation>
+        <translation>静态文件</translation>
     </message>
     <message>
         <source>Structure</source>
-        <translation type="unfinished"></translation>
+        <translation>结构服务</translation>
     </message>
     <message>
         <source>Sign-in</source>
-        <translation type="unfinished"></translation>
+        <translation>登录</translation>
     </message>
     <message>
         <source>Application folder</source>
-        <translation type="unfinished"></translation>
+        <translation>应用程序文件夹</translation>
     </message>
     <message>
         <source>Settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>设置文件</translation>
     </message>
     <message>
         <source>Thumbnail folder</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图文件夹</translation>
     </message>
     <message>
         <source>Log file</source>
-        <translation type="unfinished"></translation>
+        <translation>日志文件</translation>
     </message>
     <message>
         <source>PROJECT</source>
-        <translation type="unfinished"></translation>
+        <translation>项目</translation>
     </message>
     <message>
         <source>EXISTS</source>
-        <translation type="unfinished"></translation>
+        <translation>存在</translation>
     </message>
     <message>
         <source>GROUP</source>
-        <translation type="unfinished"></translation>
+        <translation>分组</translation>
     </message>
     <message>
         <source>TYPE</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>UNIT</source>
-        <translation type="unfinished"></translation>
+        <translation>单位</translation>
     </message>
     <message>
         <source>REQUIRED</source>
-        <translation type="unfinished"></translation>
+        <translation>必填</translation>
     </message>
     <message>
         <source>PARAMETER</source>
-        <translation type="unfinished"></translation>
+        <translation>参数</translation>
     </message>
     <message>
         <source>VALUE</source>
-        <translation type="unfinished"></translation>
+        <translation>值</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>是</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>否</translation>
     </message>
 </context>
 </TS>
