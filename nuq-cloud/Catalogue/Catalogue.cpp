@@ -1,7 +1,6 @@
 #include "Catalogue/Catalogue.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace nuqcloud {
 namespace {
@@ -9,14 +8,10 @@ namespace {
 constexpr int kSchemaVersion = 1;
 constexpr std::size_t kRememberedSearches = 16;
 
-void CheckFile(const LibraryFolder& library, CatalogueConnection& connection)
+void CheckSchema(const LibraryFolder& library, CatalogueConnection& connection)
 {
     if (connection.SchemaVersion() != kSchemaVersion) {
         throw DamagedLibrary(library.Path(), "catalogue.db does not carry schema version 1");
-    }
-    const auto size = static_cast<std::int64_t>(std::filesystem::file_size(library.CatalogueFile()));
-    if (size != connection.ExpectedFileSize()) {
-        throw DamagedLibrary(library.Path(), "catalogue.db is cut short or was changed while it was copied");
     }
 }
 
@@ -33,7 +28,7 @@ Catalogue::Catalogue(const LibraryFolder& library) : m_pool(library.CatalogueFil
 {
     try {
         const auto connection = m_pool.Borrow();
-        CheckFile(library, *connection.operator->());
+        CheckSchema(library, *connection.operator->());
         m_categories = std::make_unique<CategoryTable>(connection->Categories());
         m_projects = connection->Projects();
         m_componentCount = connection->ComponentCount();

@@ -133,11 +133,6 @@ int CatalogueConnection::SchemaVersion()
     return m_database.execAndGet("PRAGMA user_version").getInt();
 }
 
-std::int64_t CatalogueConnection::ExpectedFileSize()
-{
-    return m_database.execAndGet("PRAGMA page_count").getInt64() * m_database.execAndGet("PRAGMA page_size").getInt64();
-}
-
 std::int64_t CatalogueConnection::ComponentCount()
 {
     return m_database.execAndGet("SELECT coalesce(max(position) + 1, 0) FROM component").getInt64();

@@ -25,8 +25,6 @@ public:
 
     /// Schema number that the file carries.
     int SchemaVersion();
-    /// Bytes that the file must have by its own account.
-    std::int64_t ExpectedFileSize();
     std::int64_t ComponentCount();
 
     std::vector<Category> Categories();

@@ -147,6 +147,14 @@ void ExplainRefusal(const httplib::Request&, httplib::Response& response)
     response.set_content(writer.Take(), "application/json");
 }
 
+/// httplib offers ranges in every reply to HEAD; only files, which carry a tag, have them.
+void WithdrawRangeOffer(const httplib::Request&, httplib::Response& response)
+{
+    if (!response.has_header("ETag")) {
+        response.headers.erase("Accept-Ranges");
+    }
+}
+
 /// Reads on for a moment after the last reply: closing with unread bytes would make the peer lose that reply.
 void DiscardInput(socket_t socket)
 {
@@ -190,6 +198,7 @@ public:
         set_exception_handler([](const httplib::Request&, httplib::Response& response, const std::exception_ptr&) {
             response.status = 500;
         });
+        set_post_routing_handler(&WithdrawRangeOffer);
         set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
             const HttpRequest ours = ToHttpRequest(request);
             FillResponse(ours, m_handler(ours), response);
