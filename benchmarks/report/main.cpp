@@ -16,7 +16,7 @@ const std::vector<std::vector<std::string>> columnOrders{
     {"fromJson", "handler", "service", "naive", "simdjson", "rapidjson", "nlohmann"},
     {"marking", "naive"},
     {"by-value", "keys"},
-    {"one-scan", "walk"},
+    {"one-scan", "walk", "shuffled"},
     {"base", "handle"},
     {"bare", "nuq-cloud"},
 };

@@ -51,12 +51,12 @@ int ParentIndex(int index)
     return index == 0 ? -1 : (index - 1) / 4;
 }
 
-QByteArray Category(Random& random, int index)
+QByteArray Category(Random& random, int index, int weight)
 {
     const int parent = ParentIndex(index);
     return "{\"id\":" + Number(index + 1) + ",\"name\":\"" + Name(random) + "\",\"code\":\"" + CategoryCode(index) +
            "\",\"parentId\":" + Number(parent + 1) + ",\"parentCode\":\"" + CategoryCode(parent) +
-           "\",\"weight\":" + Number(Below(random, 100000)) + ",\"count\":" + Number(Below(random, 500)) +
+           "\",\"weight\":" + Number(weight) + ",\"count\":" + Number(Below(random, 500)) +
            ",\"icon\":\"category.png\",\"level\":" + Number(1 + index % 7) + ",\"enabled\":true}";
 }
 
@@ -152,7 +152,13 @@ QByteArray Page(int count, const QByteArray& list)
 QByteArray Bodies::Categories(int count)
 {
     Random random;
-    return Envelope(Array(count, [&random](int index) { return Category(random, index); }));
+    return Envelope(Array(count, [&random](int index) { return Category(random, index, Below(random, 100000)); }));
+}
+
+QByteArray Bodies::CategoriesInOrder(int count)
+{
+    Random random;
+    return Envelope(Array(count, [&random](int index) { return Category(random, index, index); }));
 }
 
 QByteArray Bodies::CategoryCounts(int count)
