@@ -78,7 +78,7 @@ QString AccountService::Forget(TokenEnvironment environment) const
 AccountService::Lookup AccountService::Find(TokenEnvironment environment) const
 {
     const QString variable = QString::fromLatin1(VariableName(environment));
-    const QString token = TokenFromBytes(qgetenv(VariableName(environment)));
+    const QString token = TokenFromBytes(qEnvironmentVariable(VariableName(environment)).toUtf8());
     if (!token.isEmpty()) {
         const QString fault = TokenFault(token);
         return fault.isEmpty()

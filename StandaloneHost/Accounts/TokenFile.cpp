@@ -11,7 +11,7 @@ namespace standalone {
 
 namespace {
 
-constexpr qint64 kLargestFile = 64 * 1024;
+constexpr qint64 kLargestFile = qint64{64} << 10;
 constexpr QFile::Permissions kOwnerFile = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions kOwnerFolder = kOwnerFile | QFile::ExeOwner;
 
@@ -101,7 +101,7 @@ QString TokenFile::Write(const QString& token) const
         return QStringLiteral("cannot make a private folder %1 for the token").arg(folder);
     }
     const QString reason = ReplaceFile(m_path, token.toUtf8() + '\n', kOwnerFile);
-    return reason.isEmpty() ? reason : QStringLiteral("cannot write the token file %1: %2").arg(m_path, reason);
+    return reason.isEmpty() ? QString() : QStringLiteral("cannot write the token file %1: %2").arg(m_path, reason);
 }
 
 QString TokenFile::Remove() const

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
+#include <numeric>
 #include <spdlog/logger.h>
 #include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/rotating_file_sink.h>
@@ -71,30 +72,46 @@ spdlog::sink_ptr FileSink(const LogOptions& options, const QString& path)
 /// A log that fails with every record must not fill the screen with its own complaint.
 spdlog::err_handler ComplainOnce(const QString& name)
 {
-    auto spComplained = std::make_shared<std::atomic_flag>();
+    auto spComplained = std::make_shared<std::atomic<bool>>(false);
     return [spComplained, prefix = name.toStdString()](const std::string& reason) {
-        if (!spComplained->test_and_set()) {
+        if (!spComplained->exchange(true)) {
             std::fprintf(stderr, "%s: warning: the log cannot be written: %s\n", prefix.c_str(), reason.c_str());
         }
     };
 }
 
-void Write(spdlog::logger& logger, spdlog::level::level_enum level, const tarnnuq::NuqLogObject& record)
+/// The parts joined, but no more than so many characters of them: reply bodies are large, and most of one would
+/// be copied and converted only to be cut off by the sink.
+QString Beginning(const QStringList& parts, int limit)
 {
-    if (!logger.should_log(level)) {
-        return;
+    QString text;
+    for (const QString& part : parts) {
+        text += part.leftRef(limit - text.size());
     }
-    try {
-        // The overload for finished texts: braces in the text are no place markers.
-        logger.log(level, spdlog::string_view_t(record.Text().toUtf8().toStdString()));
-    } catch (...) {
-        // Out of memory for the text: a log must not end the program.
+    return text;
+}
+
+int Length(const QStringList& parts)
+{
+    return std::accumulate(
+        parts.begin(), parts.end(), 0, [](int length, const QString& part) { return length + part.size(); });
+}
+
+/// The record in UTF-8: whole when it fits, else with its length in front and more than fits of its beginning.
+QByteArray Payload(const QStringList& parts, int limit)
+{
+    const int length = Length(parts);
+    QByteArray text = Beginning(parts, limit).toUtf8();
+    if (length > limit || text.size() > limit) {
+        text.prepend(QStringLiteral("(%1 characters) ").arg(length).toUtf8());
     }
+    return text;
 }
 
 } // namespace
 
-HostLogger::HostLogger(const LogOptions& options) : m_spMask(std::make_shared<LogMask>())
+HostLogger::HostLogger(const LogOptions& options)
+    : m_spMask(std::make_shared<LogMask>()), m_recordSize(static_cast<int>(options.recordSize))
 {
     std::vector<spdlog::sink_ptr> sinks{ConsoleSink(options.consoleLevel)};
     if (options.fileLevel != LogLevel::Off) {
@@ -124,22 +141,37 @@ HostLogger::~HostLogger()
 
 void HostLogger::Info(const tarnnuq::NuqLogObject& record)
 {
-    Write(*m_spLogger, spdlog::level::info, record);
+    Write(LogLevel::Info, record);
 }
 
 void HostLogger::Error(const tarnnuq::NuqLogObject& record)
 {
-    Write(*m_spLogger, spdlog::level::err, record);
+    Write(LogLevel::Error, record);
 }
 
 void HostLogger::Warn(const tarnnuq::NuqLogObject& record)
 {
-    Write(*m_spLogger, spdlog::level::warn, record);
+    Write(LogLevel::Warning, record);
 }
 
 void HostLogger::Debug(const tarnnuq::NuqLogObject& record)
 {
-    Write(*m_spLogger, spdlog::level::debug, record);
+    Write(LogLevel::Debug, record);
+}
+
+void HostLogger::Write(LogLevel level, const tarnnuq::NuqLogObject& record)
+{
+    if (!m_spLogger->should_log(SpdlogLevel(level))) {
+        return;
+    }
+    try {
+        const QByteArray payload = Payload(record.Parts(), m_recordSize);
+        // The overload for finished texts: braces in the text are no place markers.
+        m_spLogger->log(
+            SpdlogLevel(level), spdlog::string_view_t(payload.constData(), static_cast<std::size_t>(payload.size())));
+    } catch (...) {
+        // Out of memory for the text: a log must not end the program.
+    }
 }
 
 void HostLogger::Flush()

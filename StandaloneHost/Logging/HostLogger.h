@@ -19,7 +19,8 @@ class LogMask;
 /// A file line is "2026-11-21T11:18:10.123Z [info] [<process>:<thread>] <text>", in UTC; a console line is
 /// "<name>: <level>: <text>". The parts of a record are joined; secrets are masked (see LogMask), and line
 /// breaks and control characters become escapes, so that a record is always one line. Each record reaches the
-/// file at once and in one piece: a crash loses nothing, and several processes may write to the same file.
+/// file at once and in one piece: a crash loses nothing, and several processes may write to the same file. When one of
+/// them rotates the file, the others go on in the renamed one until they rotate themselves.
 ///
 /// When the file cannot be opened the log goes to the console alone and one warning there says why; when it can
 /// no longer be written (a full disk) one warning says so and the program goes on.
@@ -51,7 +52,10 @@ public:
     QString FileFault() const;
 
 private:
+    void Write(LogLevel level, const tarnnuq::NuqLogObject& record);
+
     std::shared_ptr<LogMask> m_spMask;
+    int m_recordSize;
     QString m_filePath;
     QString m_fileFault;
     std::shared_ptr<spdlog::logger> m_spLogger;

@@ -22,8 +22,8 @@ struct LogOptions
     std::size_t fileSize = std::size_t{5} << 20;
     /// How many rotated files ("<name>.1.log", …) are kept beside the current one.
     std::size_t rotatedFiles = 5;
-    /// A record is cut behind this many bytes of UTF-8, so that logged reply bodies cannot push everything
-    /// else out of the files.
+    /// A record longer than this many bytes of UTF-8 is cut there and has its whole length in front, so that
+    /// logged reply bodies cannot push everything else out of the files. Below 2 GB.
     std::size_t recordSize = std::size_t{16} << 10;
 };
 

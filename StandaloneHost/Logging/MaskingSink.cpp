@@ -81,8 +81,7 @@ std::string MaskingSink::Harmless(spdlog::string_view_t payload) const
         return LogLine(m_spMask->Apply(TextOf(payload, payload.size()))).toStdString();
     }
     const QString beginning = TextOf(payload, CutPosition(payload, m_recordSize));
-    const QString tail = QStringLiteral(" … (cut, %1 bytes in all)").arg(payload.size());
-    return LogLine(m_spMask->ApplyToBeginning(beginning) + tail).toStdString();
+    return LogLine(m_spMask->ApplyToBeginning(beginning) + QStringLiteral(" …")).toStdString();
 }
 
 } // namespace standalone

@@ -22,7 +22,7 @@ QString Below(const QString& base)
 /// The home folder; without a usable HOME the one of the user database, because Qt would answer "/".
 QString HomeFolder()
 {
-    const QString home = qEnvironmentVariable("HOME");
+    QString home = qEnvironmentVariable("HOME");
     if (QDir::isAbsolutePath(home)) {
         return home;
     }

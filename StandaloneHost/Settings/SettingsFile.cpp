@@ -74,7 +74,7 @@ QString NameAside(const QString& path)
 QString Replace(const QString& path, const QJsonObject& values)
 {
     const QString fault = ReplaceFile(path, QJsonDocument(values).toJson(QJsonDocument::Indented));
-    return fault.isEmpty() ? fault : QStringLiteral("cannot write the settings file %1: %2").arg(path, fault);
+    return fault.isEmpty() ? QString() : QStringLiteral("cannot write the settings file %1: %2").arg(path, fault);
 }
 
 QString Refusal(const QString& path, const SettingsReading& reading)
@@ -98,7 +98,7 @@ QString SettingsFile::Path() const
 
 SettingsReading SettingsFile::Read() const
 {
-    const SettingsReading reading = ReadOnce(m_path);
+    SettingsReading reading = ReadOnce(m_path);
     if (reading.state != SettingsState::Damaged) {
         return reading;
     }
@@ -122,7 +122,7 @@ QString SettingsFile::Update(const std::function<void(QJsonObject&)>& change, QJ
     }
     QJsonObject values = reading.values;
     change(values);
-    const QString fault = Replace(m_path, values);
+    QString fault = Replace(m_path, values);
     if (fault.isEmpty()) {
         after = values;
     }

@@ -135,7 +135,7 @@ QString SettingsStore::Change(const std::function<void(QJsonObject&)>& change)
 {
     const std::lock_guard<std::mutex> writeLock(m_writeMutex);
     SettingsReading written{SettingsState::Read, {}, {}};
-    const QString fault = m_file.Update(change, written.values);
+    QString fault = m_file.Update(change, written.values);
     if (fault.isEmpty()) {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_reading = std::move(written);

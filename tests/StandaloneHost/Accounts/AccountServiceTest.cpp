@@ -34,7 +34,7 @@ protected:
     /// Writes the stored token with the permissions that storing gives it.
     QString WriteStored(const char* name, const QByteArray& content) const
     {
-        const QString file = m_folder.Write(QStringLiteral("accounts/") + QString::fromLatin1(name), content);
+        QString file = m_folder.Write(QStringLiteral("accounts/") + QString::fromLatin1(name), content);
         SetMode(file, 0600);
         SetMode(m_folder.Path(QStringLiteral("accounts")), 0700);
         return file;

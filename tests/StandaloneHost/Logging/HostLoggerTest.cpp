@@ -184,14 +184,15 @@ TEST(HostLogger, CutsOverlongRecordsAtACharacter)
 {
     const TestFolder folder;
     LogOptions options = OptionsFor(folder);
-    options.recordSize = 10;
+    options.recordSize = 20;
     HostLogger logger(options);
-    logger.Info(QStringLiteral("0123456789"));
-    logger.Info(QStringLiteral("0123456789a"));
-    logger.Info(QStringLiteral("012345678水")); // Its bytes 10 to 12 are one letter.
+    logger.Info({QStringLiteral("0123456789"), QStringLiteral("abcdefghij")});
+    logger.Info({QStringLiteral("0123456789"), QStringLiteral("abcdefghijk")});
+    logger.Info(QString(1000000, QLatin1Char('x')));
+    logger.Info(QStringLiteral("水水水水水水水")); // The cut falls into the second letter's three bytes.
     EXPECT_EQ(Lines(folder),
-        (QStringList{QStringLiteral("[info] 0123456789"), QStringLiteral("[info] 0123456789 … (cut, 11 bytes in all)"),
-            QStringLiteral("[info] 012345678 … (cut, 12 bytes in all)")}));
+        (QStringList{QStringLiteral("[info] 0123456789abcdefghij"), QStringLiteral("[info] (21 characters) 0123 …"),
+            QStringLiteral("[info] (1000000 characters) …"), QStringLiteral("[info] (7 characters) 水 …")}));
 }
 
 TEST(HostLogger, LeavesNoPieceOfASecretWhereARecordIsCut)
@@ -318,6 +319,7 @@ TEST(HostLogger, KeepsLinesOfSeveralThreadsWhole)
     {
         HostLogger logger(OptionsFor(folder));
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int number = 0; number < 4; ++number) {
             threads.emplace_back([&logger, number] {
                 for (int round = 0; round < 250; ++round) {
@@ -345,6 +347,7 @@ TEST(HostLogger, KeepsLinesOfSeveralLoggersOnOneFileWhole)
 {
     const TestFolder folder;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number) {
         threads.emplace_back([&folder] {
             HostLogger logger(OptionsFor(folder));

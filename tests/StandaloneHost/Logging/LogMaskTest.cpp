@@ -115,6 +115,7 @@ TEST(LogMask, MayBeUsedFromSeveralThreads)
 {
     LogMask mask;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number) {
         threads.emplace_back([&mask, number] {
             for (int round = 0; round < 200; ++round) {

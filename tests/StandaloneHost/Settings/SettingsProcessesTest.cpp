@@ -2,10 +2,12 @@
 
 #include "support/PrintQt.h"
 #include "support/TestFolder.h"
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSysInfo>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
@@ -95,6 +97,23 @@ TEST(SettingsProcesses, LeaveAUsableFileWhenKilled)
         EXPECT_EQ(settings.Text(QStringLiteral("unknown")), QStringLiteral("kept"));
         EXPECT_EQ(settings.Set(QStringLiteral("after"), round), QString());
     }
+}
+
+TEST(SettingsProcesses, DoNotWaitForTheLockOfADeadOne)
+{
+    const TestFolder folder;
+    const QString file = folder.Write(QStringLiteral("settings.json"), "{}");
+    QProcess dead;
+    dead.start(QStringLiteral(SETTINGS_WRITER), {});
+    const qint64 id = dead.processId();
+    ASSERT_TRUE(dead.waitForFinished(kTimeLimitMs));
+    folder.Write(QStringLiteral("settings.json.lock"),
+        QStringLiteral("%1\nSettingsWriter\n%2\n").arg(id).arg(QSysInfo::machineHostName()).toUtf8());
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(SettingsStore(file).Set(QStringLiteral("a"), 1), QString());
+    EXPECT_LT(clock.elapsed(), 4000);
+    EXPECT_EQ(SettingsStore(file).Integer(QStringLiteral("a")), 1);
 }
 
 TEST(SettingsProcesses, SetADamagedFileAsideOnceAndLoseNothing)

@@ -22,7 +22,7 @@ QString TestFolder::Path(const QString& relative) const
 
 QString TestFolder::Write(const QString& relative, const QByteArray& content) const
 {
-    const QString path = Path(relative);
+    QString path = Path(relative);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
