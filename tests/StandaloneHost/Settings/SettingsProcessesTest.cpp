@@ -104,7 +104,7 @@ TEST(SettingsProcesses, DoNotWaitForTheLockOfADeadOne)
     const TestFolder folder;
     const QString file = folder.Write(QStringLiteral("settings.json"), "{}");
     QProcess dead;
-    dead.start(QStringLiteral(SETTINGS_WRITER), {});
+    dead.start(QStringLiteral(SETTINGS_WRITER), QStringList());
     const qint64 id = dead.processId();
     ASSERT_TRUE(dead.waitForFinished(kTimeLimitMs));
     folder.Write(QStringLiteral("settings.json.lock"),
