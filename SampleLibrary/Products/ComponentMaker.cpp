@@ -104,6 +104,16 @@ std::string ComponentMaker::TypesJson(ComponentRow& row)
     return types.dump();
 }
 
+void ComponentMaker::CheckTypeNames(const ComponentRow& row) const
+{
+    std::vector<std::string> names = row.TypeNames;
+    std::sort(names.begin(), names.end());
+    const auto twice = std::adjacent_find(names.begin(), names.end());
+    if (twice != names.end()) {
+        throw SourceError(m_category.Where, "two family types of " + row.Id + " are named \"" + *twice + '"');
+    }
+}
+
 ComponentRow ComponentMaker::Make(std::size_t index)
 {
     const int series = static_cast<int>(index / m_combinations.size()) + 1;
@@ -114,11 +124,7 @@ ComponentRow ComponentMaker::Make(std::size_t index)
     row.Status = StatusOf(index);
     row.Name = {Name(Language::Chinese, series), Name(Language::English, series)};
     row.FamilyTypes = TypesJson(row);
-    std::vector<std::string> names = row.TypeNames;
-    std::sort(names.begin(), names.end());
-    if (std::adjacent_find(names.begin(), names.end()) != names.end()) {
-        throw SourceError(m_category.Where, "two family types of " + row.Id + " have one name");
-    }
+    CheckTypeNames(row);
     return row;
 }
 

@@ -35,6 +35,7 @@ private:
     std::string AxisText(std::size_t axis, Language language) const;
     std::string Name(Language language, int series) const;
     std::string TypesJson(ComponentRow& row);
+    void CheckTypeNames(const ComponentRow& row) const;
 
     const ProductSource& m_source;
     const EndCategory& m_category;

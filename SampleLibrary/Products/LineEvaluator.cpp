@@ -1,5 +1,6 @@
 #include "Products/LineEvaluator.h"
 
+#include "Products/EvaluationOrder.h"
 #include "Reading/SourceError.h"
 #include "Reading/Texts.h"
 
@@ -49,7 +50,7 @@ LineEvaluator::LineEvaluator(const ProductSource& source, const EndCategory& cat
         m_axes.push_back(m_slots.Place(axis.Parameter));
     }
     m_axisValues.resize(m_axes.size());
-    for (const Assignment& value : category.Line.Values) {
+    for (const Assignment& value : InEvaluationOrder(category.Line.Values, category.Where)) {
         AddStep(value);
     }
     for (const std::string& condition : category.Line.Conditions) {

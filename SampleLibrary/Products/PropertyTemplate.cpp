@@ -89,9 +89,25 @@ Json Definition(const TemplateEntry& entry, const ProductSource& source, Languag
         {"isBuildIn", parameter.IsBuildIn}, {"isShared", true}, {"isFromFile", parameter.IsGeometry}};
 }
 
+/// Properties of the standard have their set before a dot.
+bool IsOfStandard(const std::string& code)
+{
+    return code.find('.') != std::string::npos;
+}
+
 bool HasPlace(const std::string& expression)
 {
     return expression.find('{') != std::string::npos;
+}
+
+void CheckKeys(const ProductSource& source, const EndCategory& category, const TemplateEntry& entry)
+{
+    const Enumeration& known = source.Enumerations.at(entry.Definition->Enumeration);
+    for (const std::string& key : entry.AllowedKeys) {
+        if (known.count(key) == 0) {
+            throw SourceError(category.Where, '"' + key + "\" is no value of " + entry.Definition->Code);
+        }
+    }
 }
 
 /// Keys of an enumeration that can occur as values: those of its axis, its constant or its column; all of them
@@ -158,16 +174,23 @@ void PropertyTemplate::AddProductParameters(const EndCategory& category)
         Add(axis.Parameter);
     }
     for (const Assignment& value : category.Line.Values) {
-        Add(value.Target);
+        if (!IsOfStandard(value.Target)) {
+            Add(value.Target);
+        }
     }
 }
 
 bool PropertyTemplate::IsSaidAlready(const std::string& property) const
 {
     const auto aliases = m_source.Aliases.find(property);
-    return aliases != m_source.Aliases.end() &&
-           std::any_of(aliases->second.begin(), aliases->second.end(),
-               [this](const std::string& code) { return m_codes.count(code) != 0; });
+    const std::set<std::string> none;
+    const std::set<std::string>& same = aliases == m_source.Aliases.end() ? none : aliases->second;
+    const BilingualText& name = m_source.Parameters.at(property).Name;
+    return std::any_of(m_entries.begin(), m_entries.end(), [&](const TemplateEntry& entry) {
+        const BilingualText& taken = entry.Definition->Name;
+        return same.count(entry.Definition->Code) != 0 || taken.Chinese == name.Chinese ||
+               taken.English == name.English;
+    });
 }
 
 void PropertyTemplate::AddStandardProperties(const EndCategory& category)
@@ -193,6 +216,7 @@ void PropertyTemplate::SetAllowedKeys(const EndCategory& category)
     for (TemplateEntry& entry : m_entries) {
         if (entry.Definition->Kind == ValueKind::Choice) {
             entry.AllowedKeys = OccurringKeys(m_source, category, *entry.Definition);
+            CheckKeys(m_source, category, entry);
         }
     }
 }

@@ -108,19 +108,6 @@ Parameter ReadParameter(const TsvTable& table, std::size_t row)
     return parameter;
 }
 
-void CheckReferences(const Parameter& parameter, const ProductSource& source, const std::string& where)
-{
-    if (source.Groups.count(parameter.Group) == 0) {
-        throw SourceError(where, "there is no group \"" + parameter.Group + '"');
-    }
-    if (source.Units.count(parameter.Unit) == 0) {
-        throw SourceError(where, "there is no unit \"" + parameter.Unit + '"');
-    }
-    if (parameter.Kind == ValueKind::Choice && source.Enumerations.count(parameter.Enumeration) == 0) {
-        throw SourceError(where, "there is no enumeration \"" + parameter.Enumeration + '"');
-    }
-}
-
 void ReadTradeParameters(const SourceFiles& files, ProductSource& source)
 {
     const TsvTable table("parameters.tsv", files.Text("parameters.tsv"));
@@ -137,6 +124,19 @@ void ReadTradeParameters(const SourceFiles& files, ProductSource& source)
 }
 
 } // namespace
+
+void CheckReferences(const Parameter& parameter, const ProductSource& source, const std::string& where)
+{
+    if (source.Groups.count(parameter.Group) == 0) {
+        throw SourceError(where, "there is no group \"" + parameter.Group + '"');
+    }
+    if (source.Units.count(parameter.Unit) == 0) {
+        throw SourceError(where, "there is no unit \"" + parameter.Unit + '"');
+    }
+    if (parameter.Kind == ValueKind::Choice && source.Enumerations.count(parameter.Enumeration) == 0) {
+        throw SourceError(where, "there is no enumeration \"" + parameter.Enumeration + '"');
+    }
+}
 
 std::string ParameterGuid(const std::string& code)
 {

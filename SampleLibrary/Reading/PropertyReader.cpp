@@ -147,6 +147,7 @@ void ReadPropertySets(const SourceFiles& files, ProductSource& source)
         const Parameter parameter =
             MakeParameter(set, property, Find(measures, table.Cell(row, "value_type"), table, row, "ifc/measures.tsv"),
                 Find(notes, property, table, row, "ifc/properties.tsv"));
+        CheckReferences(parameter, source, table.Where(row));
         source.Properties.Add(table.Cell(row, "element").substr(std::string("Ifc").size()), set, parameter.Code);
         source.Parameters.emplace(parameter.Code, parameter);
     }
