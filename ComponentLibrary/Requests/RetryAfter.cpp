@@ -53,8 +53,8 @@ QDateTime RetryMoment(const QByteArray& retryAfter, const QByteArray& date, cons
     if (!wanted.isValid())
         return QDateTime();
     const QDateTime serverNow = HttpDate(date);
-    const qint64 wait = (serverNow.isValid() ? serverNow : now.toUTC()).secsTo(wanted);
-    return now.toUTC().addSecs(std::clamp<qint64>(wait, 0, kLongestSeconds));
+    const qint64 wait = (serverNow.isValid() ? serverNow : now.toUTC()).msecsTo(wanted);
+    return now.toUTC().addMSecs(std::clamp<qint64>(wait, 0, kLongestSeconds * 1000));
 }
 
 } // namespace componentlibrary
