@@ -5,6 +5,7 @@
 #include "CategorySvcs/DecimalId_p.h"
 #include "CategorySvcs/WeightOrder_p.h"
 #include "Common/DebugWarning.h"
+#include "Common/ReleaseReply.h"
 #include "EnvSvcs/EnvService.h"
 #include "tarnnuq/AppService.h"
 #include "tarnnuq/INuqLogger.h"
@@ -20,7 +21,7 @@
 #include <QSet>
 #include <QUrl>
 #include <algorithm>
-#include <exception>
+#include <optional>
 
 namespace tarnnuq {
 
@@ -28,6 +29,10 @@ namespace {
 
 constexpr WarningSource RequestSource{
     "CategorySvcs/PublicCategoryService.cpp", "tarnnuq::PublicCategoryService::RequestCategories"};
+
+// Trees are a few levels deep, and scanning for so few parents is cheaper than an index. Longer chains come from data
+// that is no tree, and must not take a scan of the list for each of its categories.
+constexpr int LongestScannedChain = 32;
 
 QString MajorText()
 {
@@ -40,6 +45,36 @@ void LogRequestError(const QNetworkReply& reply)
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     INuqLogger::Get()->Error(
         QStringLiteral("request error. code:%1, message:%2").arg(QString::number(status), reply.errorString()));
+}
+
+QByteArray TakeBody(QNetworkReply& reply)
+{
+    if (reply.error() != QNetworkReply::NoError) {
+        LogRequestError(reply);
+    }
+    const QByteArray body = reply.readAll();
+    INuqLogger::Get()->Info(QString::fromUtf8(body.constData(), body.size()));
+    return body;
+}
+
+void LogFailedStep()
+{
+    try {
+        INuqLogger::Get()->Error("category reply not applied in full.");
+    } catch (...) {
+        return; // No memory is left to tell it with.
+    }
+}
+
+/// Runs one step of handling a reply, which is done in a signal of the reply: no exception may cross that.
+template <typename Step>
+void Guard(Step&& step) noexcept
+{
+    try {
+        step();
+    } catch (...) {
+        LogFailedStep();
+    }
 }
 
 ICategory ReadCategory(const QJsonObject& object)
@@ -106,12 +141,24 @@ ICategory* PublicCategoryService::GetCategoryById(std::wstring id) // NOLINT(per
 QList<ICategory*> PublicCategoryService::GetFullCategories(std::wstring id)
 {
     QList<ICategory*> chain;
+    QSet<ICategory*> taken;
+    std::optional<CategoryIdIndex> index;
+    const auto find = [this, &index](int parentId) -> ICategory* {
+        if (index) {
+            return index->Find(parentId);
+        }
+        const int found = FindById(parentId);
+        return found < 0 ? nullptr : &m_categories[found];
+    };
     ICategory* category = GetCategoryById(id);
     // A cycle of parent ids ends before a category that the chain holds already.
-    while (category && !chain.contains(category)) {
+    while (category && !taken.contains(category)) {
+        taken.insert(category);
         chain.prepend(category);
-        const int parent = category->ParentId == 0 ? -1 : FindById(category->ParentId);
-        category = parent < 0 ? nullptr : &m_categories[parent];
+        if (chain.size() == LongestScannedChain) {
+            index.emplace(m_categories);
+        }
+        category = category->ParentId == 0 ? nullptr : find(category->ParentId);
     }
     return chain;
 }
@@ -131,20 +178,15 @@ QString PublicCategoryService::CategoriesUrl(const QString& keyword) const
 
 void PublicCategoryService::HandleReply(QNetworkReply& reply)
 {
-    if (reply.error() != QNetworkReply::NoError) {
-        LogRequestError(reply);
-    }
-    const QByteArray body = reply.readAll();
-    INuqLogger::Get()->Info(QString::fromUtf8(body.constData(), body.size()));
-    // Called from a signal of the network reply, which no exception may cross.
-    try {
+    // A body that cannot even be logged counts as none, so that a refresh ends like any that failed.
+    QByteArray body;
+    Guard([&] { body = TakeBody(reply); });
+    Guard([&] {
         ApplyBody(body);
         SortByWeight(m_categories);
-    } catch (const std::exception& exception) {
-        INuqLogger::Get()->Error({"category reply not applied in full: ", exception.what()});
-    }
+    });
     Q_EMIT OnCategoriesUpdated(m_categories);
-    reply.deleteLater();
+    ReleaseReply(reply);
 }
 
 void PublicCategoryService::ApplyBody(const QByteArray& body)
@@ -165,10 +207,13 @@ void PublicCategoryService::ApplyBody(const QByteArray& body)
 
 void PublicCategoryService::LoadCategories(const QJsonArray& array)
 {
-    m_categories.reserve(array.size());
+    // A list that was filled in part would never be completed: later replies bring counts only.
+    QList<ICategory> loaded;
+    loaded.reserve(array.size());
     for (const QJsonValue& element : array) {
-        m_categories.append(ReadCategory(element.toObject()));
+        loaded.append(ReadCategory(element.toObject()));
     }
+    m_categories.swap(loaded);
 }
 
 void PublicCategoryService::RefreshCounts(const QJsonArray& array)

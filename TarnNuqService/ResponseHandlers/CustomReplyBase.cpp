@@ -1,6 +1,6 @@
 #include "ResponseHandlers/CustomReplyBase.h"
 
-#include <new>
+#include "Common/ReleaseReply.h"
 
 namespace tarnnuq {
 
@@ -60,14 +60,9 @@ void CustomReplyBase::PrivateHandleReply() {}
 
 void CustomReplyBase::Release(const QPointer<QNetworkReply>& reply) noexcept
 {
-    if (!reply) {
-        return;
-    }
-    disconnect(reply, &QNetworkReply::finished, this, &CustomReplyBase::HandleReply);
-    try {
-        reply->deleteLater();
-    } catch (const std::bad_alloc&) {
-        return; // The network manager still owns the reply and takes it along.
+    if (reply) {
+        disconnect(reply, &QNetworkReply::finished, this, &CustomReplyBase::HandleReply);
+        ReleaseReply(*reply);
     }
 }
 
