@@ -31,6 +31,18 @@ std::string Numbered(const std::string& stem, std::size_t index)
     return stem + digits.data();
 }
 
+std::string NumberLabel(const Parameter& parameter, const Unit& unit, const std::string& value, Language language)
+{
+    const std::string& label =
+        In(language, value == "0" && !parameter.ZeroLabel.Chinese.empty() ? parameter.ZeroLabel : parameter.Label);
+    if (label.empty()) {
+        return Trimmed(value + ' ' + unit.Symbol);
+    }
+    // Pressure classes are named in bar and kept in megapascals.
+    const std::string tenfold = NumberText(ParsedNumber(value).value_or(0.0) * 10.0, 1);
+    return Replaced(Replaced(label, "{x10}", tenfold), "{}", value);
+}
+
 std::vector<std::size_t> CombinationsWithTypes(LineEvaluator& line)
 {
     std::vector<std::size_t> combinations;
@@ -67,9 +79,7 @@ std::string ComponentMaker::AxisText(std::size_t axis, Language language) const
     if (parameter.Kind == ValueKind::Choice) {
         return In(language, m_source.Enumerations.at(parameter.Enumeration).at(value).Name);
     }
-    const std::string& label = In(language, parameter.Label);
-    return label.empty() ? Trimmed(value + ' ' + m_source.Units.at(parameter.Unit).Symbol)
-                         : Replaced(label, "{}", value);
+    return NumberLabel(parameter, m_source.Units.at(parameter.Unit), value, language);
 }
 
 std::string ComponentMaker::Name(Language language, int series) const

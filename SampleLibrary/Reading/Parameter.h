@@ -25,7 +25,9 @@ struct Parameter
     std::string Group;       ///< code of its display group
     std::string Enumeration; ///< name of its enumeration, empty unless Kind is Choice
     BilingualText Name;
-    BilingualText Label; ///< how a value stands in a component name, "{}" is the value; empty: value and unit
+    BilingualText Label; ///< how a value stands in a component name: "{}" is the value, "{x10}" ten times it; empty:
+                         ///< value and unit
+    BilingualText ZeroLabel; ///< how the value 0 stands there; empty: as Label says
     bool IsEssential = false;
     bool IsGeometry = false;
     bool IsDriveParameter = false;

@@ -72,13 +72,17 @@ ValueKind KindOf(const std::string& type)
     return ValueKind::Choice;
 }
 
-BilingualText Label(const std::string& cell)
+/// A label cell holds one text for both languages, one for each, or one for each and then the same for the value 0.
+void SetLabels(Parameter& parameter, const std::string& cell)
 {
     if (cell == "-") {
-        return {};
+        return;
     }
     const std::vector<std::string> parts = Split(cell, '|');
-    return {parts.front(), parts.back()};
+    parameter.Label = {parts.front(), parts.size() > 1 ? parts[1] : parts.front()};
+    if (parts.size() == 4) {
+        parameter.ZeroLabel = {parts[2], parts[3]};
+    }
 }
 
 void SetFlags(Parameter& parameter, const std::string& flags)
@@ -99,7 +103,7 @@ Parameter ReadParameter(const TsvTable& table, std::size_t row)
     parameter.Unit = table.Cell(row, "unit");
     parameter.Group = table.Cell(row, "group");
     parameter.Name = {table.Cell(row, "zh"), table.Cell(row, "en")};
-    parameter.Label = Label(table.Cell(row, "label"));
+    SetLabels(parameter, table.Cell(row, "label"));
     parameter.Guid = ParameterGuid(parameter.Code);
     if (parameter.Kind == ValueKind::Choice) {
         parameter.Enumeration = table.Cell(row, "type");
