@@ -90,7 +90,7 @@ void BodyFraming::EndLine()
 void BodyFraming::EndChunkSize()
 {
     bool isNumber = false;
-    const qint64 size = m_line.left(m_line.indexOf(';')).trimmed().toLongLong(&isNumber, 16);
+    const qint64 size = m_line.split(';').value(0).trimmed().toLongLong(&isNumber, 16);
     if (!isNumber || size < 0) {
         m_state = State::UntilClose;
     } else if (size == 0) {

@@ -14,6 +14,7 @@ constexpr qint64 kMostWaiting = 1 << 20;
 DamagedWriter::DamagedWriter(QTcpSocket& socket, QObject* parent) : QObject(parent), m_socket(socket)
 {
     m_delay.setSingleShot(true);
+    m_delay.setTimerType(Qt::PreciseTimer);
     m_pace.setInterval(kPaceMilliseconds);
     m_pace.setTimerType(Qt::PreciseTimer);
     connect(&m_delay, &QTimer::timeout, this, &DamagedWriter::Send);

@@ -12,8 +12,7 @@ const char kFaultHeader[] = "X-Nuq-Fault";
 
 QByteArray PathOf(const HttpHead& head)
 {
-    const QByteArray target = head.Word(1);
-    return target.left(target.indexOf('?'));
+    return head.Word(1).split('?').value(0);
 }
 
 QByteArray PlainReply(const QByteArray& status, const QByteArray& reason)

@@ -284,8 +284,8 @@ private:
             close = close || unread || WantsClose(request);
             Prepare(request, close, exchange);
         });
+        Report(stream, begin, exchange); // before the client has the reply: whoever has it finds the line in the log
         const bool sent = stream.Flush();
-        Report(stream, begin, exchange);
         if (unread) {
             return stream.Status() == 0 ? Next::Close : Next::DiscardAndClose;
         }

@@ -22,7 +22,7 @@ public:
     using Observer = std::function<void(const HttpExchange&)>;
 
     /// @param handler answers GET, HEAD and everything else; a HEAD reply's body is left out here
-    /// @param observer told of each finished exchange; may be empty
+    /// @param observer told of each exchange just before the last of its reply leaves; may be empty
     HttpServer(Handler handler, Observer observer);
     ~HttpServer();
 
