@@ -99,10 +99,7 @@ void DamagedWriter::CheckEnd()
     }
     m_finished = true;
     m_pace.stop();
-    if (m_damage.after != AfterReply::Stall) {
-        const bool keep = m_damage.after == AfterReply::Keep && !m_sourceIsGone;
-        emit Finished(keep || m_damage.after == AfterReply::Reset ? m_damage.after : AfterReply::Close);
-    }
+    emit Finished(m_damage.after == AfterReply::Keep && m_sourceIsGone ? AfterReply::Close : m_damage.after);
 }
 
 } // namespace nuqcloud

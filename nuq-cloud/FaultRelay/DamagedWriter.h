@@ -32,7 +32,7 @@ public:
     bool HasRoom() const;
 
 signals:
-    /// The reply has gone out as far as it was to go. Emitted once a reply, never for one that stalls.
+    /// The reply has gone out as far as it was to go. Emitted once a reply.
     void Finished(nuqcloud::AfterReply after);
 
     /// There is room again.

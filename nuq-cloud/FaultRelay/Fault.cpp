@@ -59,6 +59,7 @@ const FaultKind kFaultKinds[] = {
     {"deep", kHttp, kNumber, "LEVELS", "10000", 1, 5000000, "data that is arrays within arrays"},
     {"huge-body", kHttp, kNumber, "BYTES", "67108864", 64, kMostBytes, "a valid body of that size"},
     {"broken-gzip", kHttp, kNone, "", "", 0, 0, "a body that claims to be gzip"},
+    {"wrong-date", kHttp, kNumber, "SECONDS", "31536000", -kYear * 10, kYear * 10, "a Date header that is off by that"},
     {"wrong-counts", kHttp, kNumber, "DIFFERENCE", "1000", -1000000, 1000000, "counts and totals that are off by that"},
     {"changed-catalogue", kHttp, kNone, "", "", 0, 0, "lists one component short, versions one higher"},
 };

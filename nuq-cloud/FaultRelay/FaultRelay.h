@@ -37,10 +37,10 @@ public:
     /// Adds a rule; may be called from any thread.
     void AddRule(FaultRule rule) { m_plan->Add(std::move(rule)); }
 
-    /// Takes no new connections, ends idle ones and each other one after its reply.
+    /// Takes no new connections, ends idle and stalled ones, and each other one after its reply.
     void Drain();
 
-    /// Connections that are open; stalled ones are until their clients give up.
+    /// Connections that are open.
     int ConnectionCount() const;
 
 private:

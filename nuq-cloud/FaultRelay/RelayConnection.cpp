@@ -58,7 +58,7 @@ RelayConnection::~RelayConnection()
 void RelayConnection::EndSoon()
 {
     m_isEnding = true;
-    if (!m_requestIsRunning) {
+    if (!m_requestIsRunning || m_isStalled) {
         m_client->disconnectFromHost();
     }
 }
@@ -199,12 +199,13 @@ void RelayConnection::ReplySent(AfterReply after)
         Reset();
         return;
     }
+    m_isStalled = after == AfterReply::Stall;
     if (after == AfterReply::Close || m_isEnding) {
         m_client->disconnectFromHost();
-        return;
+    } else if (after == AfterReply::Keep) {
+        m_requestIsRunning = false;
+        ReadClient();
     }
-    m_requestIsRunning = false;
-    ReadClient();
 }
 
 void RelayConnection::Refuse(const QByteArray& status, const QByteArray& reason)

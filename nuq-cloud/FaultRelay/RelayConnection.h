@@ -26,7 +26,7 @@ public:
     RelayConnection(QTcpSocket* client, const FaultRelaySettings& settings, FaultPlan& plan, QObject* parent);
     ~RelayConnection() override;
 
-    /// Ends the connection: at once when no request runs, else after its reply.
+    /// Ends the connection: at once when no request runs or its reply stalls, else after its reply.
     void EndSoon();
 
 private:
@@ -56,6 +56,7 @@ private:
     BodyFraming m_requestBody;
     BodyFraming m_replyBody;
     bool m_isEnding = false;
+    bool m_isStalled = false;
     bool m_requestIsRunning = false;
     bool m_replyHasBegun = false;
     bool m_replyHasEnded = false;

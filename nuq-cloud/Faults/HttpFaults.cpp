@@ -2,7 +2,7 @@
 
 #include "Api/Envelope.h"
 #include "Api/Tokens.h"
-#include "Text/JsonWriter.h"
+#include "Text/HttpDate.h"
 
 #include <algorithm>
 #include <ctime>
@@ -42,15 +42,6 @@ HttpReply Redirect(const std::string& address)
     HttpReply reply = Html(302);
     reply.headers.emplace_back("Location", address);
     return reply;
-}
-
-std::string HttpDate(std::time_t moment)
-{
-    std::tm parts{};
-    ::gmtime_r(&moment, &parts);
-    char text[48];
-    std::strftime(text, sizeof(text), "%a, %d %b %Y %H:%M:%S GMT", &parts); // the program stays in the "C" locale
-    return text;
 }
 
 HttpReply RetryLater(int status, const char* code, const char* message, const std::string& retryAfter)
@@ -113,7 +104,7 @@ std::optional<HttpReply> ErrorStatus(const Fault& fault, const HttpRequest& requ
         return RetryLater(429, "RATE_LIMITED", "Too many requests.", fault.value);
     }
     if (fault.Is("rate-limit-date")) {
-        return RetryLater(429, "RATE_LIMITED", "Too many requests.", HttpDate(std::time(nullptr) + fault.number));
+        return RetryLater(429, "RATE_LIMITED", "Too many requests.", FormatHttpDate(std::time(nullptr) + fault.number));
     }
     if (fault.Is("unavailable")) {
         return RetryLater(503, "UNAVAILABLE", "The service is being maintained.", fault.value);

@@ -31,7 +31,7 @@ public:
 
     int Port() const;
 
-    /// Ends idle connections, lets running replies go out, and drops what still stalls after a while.
+    /// Ends idle and stalled connections and lets running replies go out; those that take too long are dropped.
     void Drain();
 
 private:

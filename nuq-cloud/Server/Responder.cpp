@@ -2,10 +2,11 @@
 
 #include "Api/Envelope.h"
 #include "Faults/HttpFaults.h"
+#include "Text/HttpDate.h"
 
 namespace nuqcloud {
 
-Responder::Responder(const ServerSettings& settings) : m_faultsAllowed(settings.faultsAllowed)
+Responder::Responder(const ServerSettings& settings) : m_faultsAllowed(settings.faultsAllowed), m_clock(settings.clock)
 {
     if (settings.replayFile.empty()) {
         m_service = std::make_unique<CloudService>(LibraryFolder(settings.library), settings.tokens);
@@ -35,12 +36,25 @@ HttpReply Responder::AnswerWithFaults(const HttpRequest& request) const
     } catch (const FaultSyntaxError& error) {
         return ErrorReply(400, "INVALID_FAULT", error.what());
     }
+    HttpReply reply = Compose(faults, request);
+    const Fault* const wrongDate = FindFault(faults, "wrong-date");
+    reply.headers.emplace_back("Date", FormatHttpDate(Now() + (wrongDate == nullptr ? 0 : wrongDate->number)));
+    return reply;
+}
+
+HttpReply Responder::Compose(const std::vector<Fault>& faults, const HttpRequest& request) const
+{
     if (auto replacement = ReplacementFor(faults, request)) {
         return *replacement;
     }
     HttpReply reply = m_service->Answer(request, TweaksFor(faults));
     Spoil(faults, reply);
     return reply;
+}
+
+std::time_t Responder::Now() const
+{
+    return m_clock ? m_clock() : std::time(nullptr);
 }
 
 std::vector<std::string> Responder::Patterns() const

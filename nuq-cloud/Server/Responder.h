@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FaultRelay/Fault.h"
 #include "Http/HttpReply.h"
 #include "Http/HttpRequest.h"
 #include "Server/CloudService.h"
@@ -7,6 +8,8 @@
 #include "Sessions/SessionRecorder.h"
 #include "Sessions/SessionReplay.h"
 
+#include <ctime>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,8 +31,11 @@ public:
 
 private:
     HttpReply AnswerWithFaults(const HttpRequest& request) const;
+    HttpReply Compose(const std::vector<Fault>& faults, const HttpRequest& request) const;
+    std::time_t Now() const;
 
     const bool m_faultsAllowed;
+    const std::function<std::time_t()> m_clock;
     std::unique_ptr<const CloudService> m_service;
     std::unique_ptr<const SessionReplay> m_replay; ///< answers in the service's place when set
     std::unique_ptr<SessionRecorder> m_recorder;

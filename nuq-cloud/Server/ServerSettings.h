@@ -3,6 +3,7 @@
 #include "Api/Tokens.h"
 #include "Http/HttpExchange.h"
 
+#include <ctime>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -18,6 +19,7 @@ struct ServerSettings
     bool faultsAllowed = false;                          ///< only then is X-Nuq-Fault obeyed
     std::string recordFile;                              ///< every exchange is written there; empty for none
     std::string replayFile;                              ///< requests are answered from there; empty for none
+    std::function<std::time_t()> clock;                  ///< what the Date header tells; empty: the system's time
     std::function<void(const HttpExchange&)> onExchange; ///< called from many threads; may be empty
 };
 

@@ -272,13 +272,12 @@ TEST(RelayInFront, OfAnyServerPassesChunksAndRequestBodiesOn)
     const quint16 ports[] = {server.Port(), relay.Port()};
     for (int i = 0; i < 2; ++i) {
         RawClient client(ports[i]);
-        client.Send(Request("/x", {"Content-Length: 4"}, "POST") + "body" + Request("/x", {"Connection: close"}));
-        answers[i] = client.ReadAll();
-        EXPECT_TRUE(client.WasClosed()) << "the end of the chunks was not seen";
+        client.Send(Request("/x", {"Content-Length: 4"}, "POST") + "body" + Request("/x"));
+        answers[i] = client.ReadAll(300);
     }
     EXPECT_NE(answers[0].find("chunked"), std::string::npos);
     EXPECT_EQ(answers[1], answers[0]);
-    ASSERT_EQ(server.Requests().size(), 4U);
+    ASSERT_EQ(server.Requests().size(), 4U) << "the end of the chunks was not seen";
     EXPECT_EQ(server.Requests().at(2).body, QByteArray("body"));
     EXPECT_EQ(server.Requests().at(3).method, QByteArray("GET"));
 }

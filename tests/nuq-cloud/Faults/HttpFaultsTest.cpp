@@ -189,6 +189,13 @@ TEST_F(HttpFaults, ChangeTheCatalogueBetweenPages)
     EXPECT_EQ(after.at("list").at(0).at("version").get<int>(), before.at("list").at(0).at("version").get<int>() + 1);
 }
 
+TEST_F(HttpFaults, TellAWrongDate)
+{
+    EXPECT_EQ(m_server.Api("/v1/projects").Header("Date"), "Tue, 14 Nov 2023 22:13:20 GMT");
+    EXPECT_EQ(Ask("wrong-date=-86400").Header("Date"), "Mon, 13 Nov 2023 22:13:20 GMT");
+    EXPECT_EQ(Ask("wrong-date,status=500").Header("Date"), "Wed, 13 Nov 2024 22:13:20 GMT");
+}
+
 TEST_F(HttpFaults, ReachFilesToo)
 {
     const RawReply reply =
