@@ -2,6 +2,7 @@
 # Messages go to standard error, so that standard output holds only what was asked for.
 
 export LC_ALL=C.UTF-8
+shopt -s extglob
 
 say() { printf '%s: %s\n' "$program" "$*" >&2; }
 
@@ -48,13 +49,32 @@ configure() # PRESET
     fi
 }
 
+# Passes on what ninja says, once it has something to do; on a terminal its steps share one line, as when it runs alone.
+show_progress() # FOLDER
+{
+    local line silent=yes step=
+    while IFS= read -r line; do
+        case $line in
+        'ninja: Entering directory '* | *'] Re-checking globbed directories...' | 'ninja: no work to do.') continue ;;
+        esac
+        if [[ -n $silent ]]; then
+            say "building $1"
+            silent=
+        fi
+        if [[ -t 2 && $line == \[+([0-9])/* ]]; then
+            printf '\r\e[K%s' "${line:0:$((${COLUMNS:-80} - 1))}" >&2
+            step=yes
+        else
+            printf '%s%s\n' "${step:+$'\n'}" "$line" >&2
+            step=
+        fi
+    done
+    printf '%s' "${step:+$'\n'}" >&2
+}
+
 build() # PRESET TARGET...
 {
-    local folder=build/$1 pending
+    local folder=build/$1
     shift
-    pending=$(ninja -C "$folder" -n "$@" 2>&1 | tail -n 1) || true
-    if [[ $pending != "ninja: no work to do." ]]; then
-        say "building $folder"
-        ninja -C "$folder" -j "$(nproc)" "$@" >&2 || fail "the build in $folder failed"
-    fi
+    ninja -C "$folder" -j "$(nproc)" "$@" 2>&1 | show_progress "$folder" || fail "the build in $folder failed"
 }
