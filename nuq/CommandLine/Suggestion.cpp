@@ -43,7 +43,8 @@ QString Suggestion(const QString& word, const QStringList& known)
     int bestDistance = std::max(1, word.size() / 3) + 1;
     for (const QString& candidate : known) {
         const bool isBeginning = word.size() >= 3 && candidate.startsWith(word, Qt::CaseInsensitive);
-        const int distance = isBeginning ? 1 : Distance(word.toLower(), candidate);
+        const int edits = Distance(word.toLower(), candidate);
+        const int distance = isBeginning ? std::min(edits, 1) : edits;
         if (distance < bestDistance) {
             best = candidate;
             bestDistance = distance;

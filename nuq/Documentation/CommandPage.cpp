@@ -2,6 +2,8 @@
 
 #include "CommandLine/HelpText.h"
 #include "Documentation/Facts.h"
+#include "Errors/ErrorTexts.h"
+#include "Program/ErrorDocument.h"
 
 namespace nuq {
 namespace {
@@ -70,6 +72,23 @@ std::string Section(const CommandSpec& spec)
     return section + "```\n";
 }
 
+/// The causes that a failure document names in "code", with the exit code that goes with each.
+std::string ErrorTable()
+{
+    std::string table = "\n| code | exit | meaning |\n|---|---|---|\n";
+    for (const componentlibrary::ErrorCode code : componentlibrary::AllErrorCodes()) {
+        componentlibrary::ErrorInfo error;
+        error.code = code;
+        const bool isCancelled = code == componentlibrary::ErrorCode::Cancelled;
+        const int exit = isCancelled ? static_cast<int>(ExitCode::Interrupted) : static_cast<int>(ExitCodeOf(error));
+        table += "| `" + ErrorId(code).toStdString() + "` | " + std::to_string(exit) + " | " +
+                 InTable(ErrorCause(error).toStdString()) + " |\n";
+    }
+    table +=
+        "| `service.no_categories` | 1 | The public category service gave no categories, and it does not say why. |\n";
+    return table + "| `usage` | 2 | The command line is wrong. |\n";
+}
+
 } // namespace
 
 std::string CommandPage(const Commands& commands)
@@ -85,6 +104,7 @@ std::string CommandPage(const Commands& commands)
         page += Section(command->Spec());
     page += "\n## Options of all commands\n" + OptionTable(GlobalOptionSpecs());
     page += "\n## Exit status\n" + FactTable("code", ExitStatusFacts());
+    page += "\n## Error codes\n\nThe `code` of a failure with `--json`.\n" + ErrorTable();
     page += "\n## Environment\n" + FactTable("variable", EnvironmentFacts());
     page += "\n## Files\n" + FactTable("file", FileFacts());
     return page;

@@ -1,0 +1,131 @@
+#include "CommandLine/CommandLineParser.h"
+#include "CommandLine/Suggestion.h"
+#include "CommandLine/UsageError.h"
+#include "Commands/CommandList.h"
+
+#include <gtest/gtest.h>
+
+namespace nuq {
+namespace {
+
+/// The complaint about a command line; "" when there is none.
+std::string Complaint(const std::vector<std::string>& arguments)
+{
+    try {
+        ParseCommandLine(MakeCommands(), arguments);
+        return "";
+    } catch (const UsageError& error) {
+        return error.what();
+    }
+}
+
+TEST(CommandLine, SaysWhatIsWrong)
+{
+    const std::vector<std::pair<std::vector<std::string>, const char*>> rows = {
+        {{"catgories"}, "There is no command \"catgories\". Did you mean \"categories\"?"},
+        {{"comp"}, "There is no command \"comp\". Did you mean \"components\"?"},
+        {{"xyzzy"}, "There is no command \"xyzzy\"."},
+        {{"xyzzy", "--foo"}, "There is no command \"xyzzy\"."},
+        {{""}, "There is no command \"\"."},
+        {{"--jsn"}, "There is no option \"--jsn\". Did you mean \"--json\"?"},
+        {{"components", "--keywrd=x"}, "There is no option \"--keywrd\". Did you mean \"--keyword\"?"},
+        {{"env", "-z"}, "There is no option \"-z\"."},
+        {{"env", "x"}, "The command \"env\" takes no further argument \"x\"."},
+        {{"component", "1", "2"}, "The command \"component\" takes no further argument \"2\"."},
+        {{"component"}, "The command \"component\" needs ID."},
+        {{"component", ""}, "ID must not be empty."},
+        {{"components", "--category"}, "The option --category needs a value."},
+        {{"components", "--page", "0"},
+            "The value of --page has to be a whole number from 1 to 10000000, but it is \"0\"."},
+        {{"components", "--page", "-1"},
+            "The value of --page has to be a whole number from 1 to 10000000, but it is \"-1\"."},
+        {{"components", "--page-size", "201"},
+            "The value of --page-size has to be a whole number from 1 to 200, but it is \"201\"."},
+        {{"components", "--page", "2x"},
+            "The value of --page has to be a whole number from 1 to 10000000, but it is \"2x\"."},
+        {{"components", "--all", "--page", "2"}, "--all and --page cannot be used together."},
+        {{"components", "--stream"}, "--stream needs --all."},
+        {{"categories", "--tree", "--service"}, "--tree and --service cannot be used together."},
+        {{"properties", "X"}, "The command \"properties\" needs --cloud: this program has no local property database."},
+        {{"env", "--timeout", "0"}, "The value of --timeout has to be a whole number from 1 to 3600, but it is \"0\"."},
+        {{"env", "--lang", "fr"}, "The value of --lang has to be one of en, zh, but it is \"fr\"."},
+        {{"env", "--color=maybe"}, "The value of --color has to be one of auto, always, never, but it is \"maybe\"."},
+        {{"components", "--keyword", "\xff"}, "The value of --keyword is not valid UTF-8."},
+        {{"component", "\xc3"}, "The value of ID is not valid UTF-8."},
+    };
+    for (const auto& [arguments, complaint] : rows)
+        EXPECT_EQ(Complaint(arguments), complaint);
+}
+
+TEST(CommandLine, TakesGlobalOptionsBeforeAndBehindTheCommand)
+{
+    const Commands commands = MakeCommands();
+    const auto before = ParseCommandLine(commands, {"--json", "-q", "-vv", "--timeout", "5", "env"});
+    EXPECT_TRUE(before.global.json);
+    EXPECT_TRUE(before.global.quiet);
+    EXPECT_EQ(before.global.verbosity, 2);
+    EXPECT_EQ(before.global.timeout, 5);
+    EXPECT_STREQ(before.command->Spec().name, "env");
+    const auto behind = ParseCommandLine(MakeCommands(),
+        {"env", "--offline", "--no-input", "--color", "never", "--app-dir=/x", "--environment", "qa", "--lang", "zh"});
+    EXPECT_TRUE(behind.global.offline);
+    EXPECT_TRUE(behind.global.noInput);
+    EXPECT_EQ(behind.global.colour, ColourMode::Never);
+    EXPECT_EQ(behind.global.applicationFolder, QStringLiteral("/x"));
+    EXPECT_EQ(behind.global.environment, QStringLiteral("qa"));
+    EXPECT_EQ(behind.global.language, QStringLiteral("zh"));
+}
+
+TEST(CommandLine, LetsArgumentsAndValuesBeNamedLikeCommandsAndOptions)
+{
+    EXPECT_EQ(Complaint({"component", "env"}), "");
+    EXPECT_EQ(Complaint({"components", "--keyword", "doctor"}), "");
+    EXPECT_EQ(Complaint({"components", "--keyword=--json"}), "");
+    EXPECT_EQ(Complaint({"component", "--", "-5"}), "");
+}
+
+TEST(CommandLine, TakesTheLastOfSeveralValues)
+{
+    EXPECT_EQ(Complaint({"components", "--page", "2", "--page", "3"}), "");
+}
+
+TEST(CommandLine, NeedsNothingForHelp)
+{
+    EXPECT_EQ(Complaint({"component", "--help"}), "");
+    EXPECT_EQ(Complaint({"components", "--stream", "-h"}), "");
+}
+
+TEST(CommandLine, BindsEveryOptionOfEveryTable)
+{
+    // ParseCommandLine throws std::logic_error for a table entry without a field.
+    for (const auto& command : MakeCommands()) {
+        EXPECT_NO_THROW(ParseCommandLine(MakeCommands(), {command->Spec().name, "--help"}));
+        EXPECT_FALSE(command->Spec().examples.empty()) << command->Spec().name;
+    }
+}
+
+TEST(CommandLine, FindsLanguageAndFormInABrokenLine)
+{
+    const GlobalOptions options = PeekGlobalOptions({"--nonsense", "--lang=zh", "--json", "--color", "never"});
+    EXPECT_TRUE(options.json);
+    EXPECT_EQ(options.language, QStringLiteral("zh"));
+    EXPECT_EQ(options.colour, ColourMode::Never);
+    EXPECT_EQ(PeekGlobalOptions({"--lang"}).language, QString());
+}
+
+TEST(Suggestion, FindsTheNearestWordAndNothingForAStranger)
+{
+    const QStringList known = {QStringLiteral("categories"), QStringLiteral("components"), QStringLiteral("component")};
+    const auto suggested = [&known](
+                               const char* word) { return Suggestion(QString::fromLatin1(word), known).toStdString(); };
+    EXPECT_EQ(suggested("categroies"), "categories");
+    EXPECT_EQ(suggested("COMPONENT"), "component");
+    EXPECT_EQ(suggested("compnents"), "components");
+    EXPECT_EQ(suggested("cat"), "categories");
+    EXPECT_EQ(suggested("q"), "");
+    EXPECT_EQ(suggested("wholly-different"), "");
+    EXPECT_EQ(suggested(std::string(10000, 'c').c_str()), "");
+}
+
+} // namespace
+} // namespace nuq
