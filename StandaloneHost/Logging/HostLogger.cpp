@@ -113,6 +113,7 @@ QByteArray Payload(const QStringList& parts, int limit)
 HostLogger::HostLogger(const LogOptions& options)
     : m_spMask(std::make_shared<LogMask>()), m_recordSize(static_cast<int>(options.recordSize))
 {
+    // The console first: a file that cannot be written throws.
     std::vector<spdlog::sink_ptr> sinks{ConsoleSink(options.consoleLevel)};
     if (options.fileLevel != LogLevel::Off) {
         const QString path = options.folder + QLatin1Char('/') + options.name + QStringLiteral(".log");

@@ -4,7 +4,6 @@
 #include "Logging/LogMask.h"
 
 #include <QString>
-#include <exception>
 #include <utility>
 
 namespace standalone {
@@ -38,19 +37,10 @@ void MaskingSink::log(const spdlog::details::log_msg& record)
     const std::string text = Harmless(record.payload);
     spdlog::details::log_msg harmless(record);
     harmless.payload = text;
-    std::exception_ptr failure;
     for (const spdlog::sink_ptr& target : m_sinks) {
-        if (!target->should_log(record.level)) {
-            continue;
-        }
-        try {
+        if (target->should_log(record.level)) {
             target->log(harmless);
-        } catch (...) {
-            failure = std::current_exception();
         }
-    }
-    if (failure) {
-        std::rethrow_exception(failure);
     }
 }
 

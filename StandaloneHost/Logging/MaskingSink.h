@@ -13,8 +13,8 @@ class LogMask;
 /// The one way into the real sinks: takes the secrets out of each record, cuts it to a bearable length, makes
 /// it one line, and hands it on. Whoever logs through the logger cannot go round it.
 ///
-/// A sink that fails (a full disk) does not keep a record from the others: each failure is reported after all
-/// sinks had their turn. The sinks behind are responsible for their own locking.
+/// The sinks get each record in their order; one that fails (a full disk) keeps it from those behind it. They are
+/// responsible for their own locking.
 class MaskingSink final : public spdlog::sinks::sink
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// @param sinks where the records go
     MaskingSink(std::shared_ptr<const LogMask> spMask, std::size_t recordSize, std::vector<spdlog::sink_ptr> sinks);
 
-    /// @throws spdlog::spdlog_ex what the last failing sink threw; the logger catches it
+    /// @throws spdlog::spdlog_ex what a failing sink threw; the logger catches it
     void log(const spdlog::details::log_msg& record) override;
     void flush() override;
     void set_pattern(const std::string& pattern) override;

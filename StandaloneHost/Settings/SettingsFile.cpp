@@ -2,12 +2,12 @@
 
 #include "Paths/PrivateFolder.h"
 #include "Paths/ReplaceFile.h"
+#include "Settings/FileLock.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QLockFile>
 
 namespace standalone {
 
@@ -102,8 +102,8 @@ SettingsReading SettingsFile::Read() const
     if (reading.state != SettingsState::Damaged) {
         return reading;
     }
-    QLockFile lock(LockPath());
-    return lock.tryLock(kLockWaitMs) ? ReadLocked() : reading;
+    FileLock lock(LockPath());
+    return lock.TryLock(kLockWaitMs) ? ReadLocked() : reading;
 }
 
 QString SettingsFile::Update(const std::function<void(QJsonObject&)>& change, QJsonObject& after) const
@@ -112,8 +112,8 @@ QString SettingsFile::Update(const std::function<void(QJsonObject&)>& change, QJ
     if (!MakePrivateFolder(folder)) {
         return QStringLiteral("cannot make the settings folder %1").arg(folder);
     }
-    QLockFile lock(LockPath());
-    if (!lock.tryLock(kLockWaitMs)) {
+    FileLock lock(LockPath());
+    if (!lock.TryLock(kLockWaitMs)) {
         return QStringLiteral("cannot lock the settings file %1; nothing was changed").arg(m_path);
     }
     const SettingsReading reading = ReadLocked();

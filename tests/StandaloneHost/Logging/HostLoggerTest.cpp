@@ -195,6 +195,17 @@ TEST(HostLogger, CutsOverlongRecordsAtACharacter)
             QStringLiteral("[info] (1000000 characters) …"), QStringLiteral("[info] (7 characters) 水 …")}));
 }
 
+TEST(HostLogger, KeepsACutRecordOnOneLine)
+{
+    const TestFolder folder;
+    LogOptions options = OptionsFor(folder);
+    options.recordSize = 40;
+    HostLogger logger(options);
+    logger.Info(QString(50, QLatin1Char('\n')));
+    EXPECT_EQ(Lines(folder).size(), 1);
+    EXPECT_TRUE(Lines(folder).constFirst().startsWith(QStringLiteral("[info] (50 characters) \\n\\n")));
+}
+
 TEST(HostLogger, LeavesNoPieceOfASecretWhereARecordIsCut)
 {
     const TestFolder folder;

@@ -1,5 +1,6 @@
 #include "Settings/SettingsStore.h"
 
+#include "Settings/FileLock.h"
 #include "support/PrintQt.h"
 #include "support/TestFolder.h"
 #include <QDir>
@@ -7,11 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QLockFile>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/resource.h>
 
+using standalone::FileLock;
 using standalone::SettingsState;
 using standalone::SettingsStore;
 
@@ -278,15 +280,15 @@ TEST(SettingsStore, WaitsForAnotherWriterOnlySoLong)
     const QByteArray old = R"({"a":1})";
     folder.Write(FileName(), old);
     SettingsStore settings(folder.Path(FileName()));
-    QLockFile other(folder.Path(FileName()) + QStringLiteral(".lock"));
-    ASSERT_TRUE(other.lock());
+    auto other = std::make_unique<FileLock>(folder.Path(FileName()) + QStringLiteral(".lock"));
+    ASSERT_TRUE(other->TryLock(0));
     QElapsedTimer clock;
     clock.start();
     EXPECT_EQ(settings.Set(QStringLiteral("a"), 2),
         QStringLiteral("cannot lock the settings file %1; nothing was changed").arg(folder.Path(FileName())));
     EXPECT_GE(clock.elapsed(), 4000);
     EXPECT_EQ(folder.Read(FileName()), old);
-    other.unlock();
+    other.reset();
     EXPECT_EQ(settings.Set(QStringLiteral("a"), 3), QString());
     EXPECT_EQ(Written(folder), Json(R"({"a":3})"));
 }
@@ -295,8 +297,8 @@ TEST(SettingsStore, LeavesADamagedFileAloneWhileAnotherWriterHoldsTheLock)
 {
     const TestFolder folder;
     folder.Write(FileName(), "damaged");
-    QLockFile other(folder.Path(FileName()) + QStringLiteral(".lock"));
-    ASSERT_TRUE(other.lock());
+    FileLock other(folder.Path(FileName()) + QStringLiteral(".lock"));
+    ASSERT_TRUE(other.TryLock(0));
     const SettingsStore settings(folder.Path(FileName()));
     EXPECT_EQ(settings.State(), SettingsState::Damaged);
     EXPECT_EQ(folder.Read(FileName()), "damaged");
