@@ -144,7 +144,8 @@ QString LibraryFolder::Begin()
 
 void LibraryFolder::SetOldAside() const
 {
-    QDir(m_path).rmdir(QStringLiteral("."));
+    // Removes an empty folder and nothing else.
+    QDir().rmdir(m_path);
     if (QFileInfo::exists(m_path) && !QDir().rename(m_path, Aside())) {
         Fail(QStringLiteral("the old library in %1 cannot be replaced").arg(m_path));
     }
@@ -160,6 +161,7 @@ void LibraryFolder::RemoveAside() const
     if (QFileInfo::exists(Inside(Aside(), MarkName))) {
         QDir(Aside()).removeRecursively();
     }
+    QDir().rmdir(Aside());
 }
 
 void LibraryFolder::Publish(const std::string& description)
