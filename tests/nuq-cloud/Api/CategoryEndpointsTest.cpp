@@ -77,10 +77,11 @@ TEST_F(CategoryEndpoints, ListTheEditorsMapping)
 TEST_F(CategoryEndpoints, GiveACategorysProperties)
 {
     EXPECT_EQ(m_server.ApiText("/v1/categories/P.1.1/properties"),
-        kBegin +
-            R"({"categoryId":3,"categoryName":"Category P.1.1","propertyList":[)"
-            R"({"id":"11111111-1111-1111-1111-111111111111","code":"DN","name":"Nominal size","valueType":"Integer"},)"
-            R"({"id":"22222222-2222-2222-2222-222222222222","code":"H","name":"Head","valueType":"Double"}]}})");
+        kBegin + R"({"categoryId":3,"categoryName":"Category P.1.1","propertyList":)" +
+            DefinitionsJson("Nominal size", "Head") + "}}");
+    EXPECT_EQ(m_server.ApiText("/v1/categories/P.1.1/properties", {"Accept-Language: zh"}),
+        kBegin + R"({"categoryId":3,"categoryName":"类别 P.1.1","propertyList":)" +
+            DefinitionsJson("公称直径", "扬程") + "}}");
 }
 
 TEST_F(CategoryEndpoints, GiveNoPropertiesForACategoryWithoutATemplate)

@@ -7,10 +7,7 @@ namespace cloudtest {
 namespace {
 
 const std::string kBegin = R"({"code":"success","message":"","data":)";
-const std::string kParametersEn =
-    R"("parameters":[{"id":"11111111-1111-1111-1111-111111111111","code":"DN","name":"Nominal size",)"
-    R"("valueType":"Integer"},{"id":"22222222-2222-2222-2222-222222222222","code":"H","name":"Head",)"
-    R"("valueType":"Double"}])";
+const std::string kParametersEn = R"("parameters":)" + DefinitionsJson("Nominal size", "Head");
 
 std::string Component(const std::string& id, int categoryId, const std::string& code)
 {

@@ -7,12 +7,6 @@
 namespace cloudtest {
 namespace {
 
-const char kDefinitionsEn[] = R"([{"id":"11111111-1111-1111-1111-111111111111","code":"DN","name":"Nominal size",)"
-                              R"("valueType":"Integer"},{"id":"22222222-2222-2222-2222-222222222222","code":"H",)"
-                              R"("name":"Head","valueType":"Double"}])";
-const char kDefinitionsZh[] = R"([{"id":"11111111-1111-1111-1111-111111111111","code":"DN","name":"公称直径",)"
-                              R"("valueType":"Integer"},{"id":"22222222-2222-2222-2222-222222222222","code":"H",)"
-                              R"("name":"扬程","valueType":"Double"}])";
 const char kFamilyTypes[] = R"([{"name":"DN50","values":["50",null]},{"name":"1/2\"","values":["15","3.5"]}])";
 const char kThumbnailSizes[] = R"([{"size":"64","thumbnails":["thumbnails/pump/64.png"]}])";
 
@@ -58,8 +52,8 @@ void InsertTemplate(SQLite::Database& database, const std::string& code)
 {
     SQLite::Statement insert(database, "INSERT INTO property_template VALUES (?,?,?)");
     insert.bind(1, code);
-    insert.bind(2, kDefinitionsZh);
-    insert.bind(3, kDefinitionsEn);
+    insert.bind(2, DefinitionsJson("公称直径", "扬程"));
+    insert.bind(3, DefinitionsJson("Nominal size", "Head"));
     insert.exec();
 }
 
@@ -88,7 +82,23 @@ void WriteCatalogue(const std::string& file, const LibraryContent& content)
     transaction.commit();
 }
 
+std::string Definition(const std::string& id, const std::string& code, const std::string& name)
+{
+    return R"({"code":")" + code + R"(","formula":"","groupName":"Sizes","id":")" + id +
+           R"(","isDriveParameter":true,"isEssential":true,"isGeometry":true,"isInstance":false,)"
+           R"("isOutputParameter":false,"isStandard":true,"name":")" +
+           name +
+           R"(","parameterDisplayType":"Length","parameterType":"Double","unit":"mm","unitCode":"MMT",)"
+           R"("valueType":"Number","values":{"1":"one"},"isBuildIn":false,"isShared":true,"isFromFile":true})";
+}
+
 } // namespace
+
+std::string DefinitionsJson(const std::string& first, const std::string& second)
+{
+    return '[' + Definition("11111111-1111-1111-1111-111111111111", "DN", first) + ',' +
+           Definition("22222222-2222-2222-2222-222222222222", "H", second) + ']';
+}
 
 LibraryContent SmallContent()
 {

@@ -56,4 +56,7 @@ private:
 /// The content of the default library.
 LibraryContent SmallContent();
 
+/// The two parameter definitions of the default library's pumps, as JSON, under names in some language.
+std::string DefinitionsJson(const std::string& first, const std::string& second);
+
 } // namespace cloudtest
