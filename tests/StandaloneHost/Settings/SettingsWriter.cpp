@@ -1,4 +1,4 @@
-// Helper of SettingsProcessesTest: SettingsWriter FILE PREFIX COUNT writes the keys "PREFIX/0" … one by one.
+// Started by SettingsProcessesTest: SettingsWriter FILE PREFIX COUNT writes the keys "PREFIX/0" … one by one.
 
 #include "Settings/SettingsStore.h"
 
