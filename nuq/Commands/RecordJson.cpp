@@ -1,15 +1,12 @@
 #include "Commands/RecordJson.h"
 
-#include <charconv>
-
 namespace nuq {
 namespace {
 
 void WriteId(JsonWriter& json, const char* key, std::int32_t id)
 {
-    char digits[16];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), id).ptr;
-    json.Member(key, std::string_view(digits, static_cast<std::size_t>(end - digits)));
+    json.Key(key);
+    json.NumberAsText(id);
 }
 
 template <class Texts>

@@ -39,6 +39,8 @@ public:
     /** @param text UTF-8 */
     void Text(std::string_view text);
     void Number(std::int64_t number);
+    /** A whole number as a text, as ids are written. */
+    void NumberAsText(std::int64_t number);
     /** The shortest text that reads back as the same number; null for what JSON cannot say (infinite, not a number). */
     void Number(double number);
     void Bool(bool value);
@@ -84,6 +86,7 @@ private:
     void Open(char bracket, bool isList);
     void Close(char bracket);
     void CheckOrder(std::string_view name);
+    void AppendSpecial(char32_t codePoint);
     void AppendEscaped(char32_t codePoint);
 
     std::string m_buffer;

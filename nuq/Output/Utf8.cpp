@@ -16,23 +16,16 @@ void AppendUtf8(std::string& text, char32_t codePoint)
 {
     if (IsSurrogate(codePoint) || codePoint > 0x10FFFF)
         codePoint = kReplacement;
-    const auto byte = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
-    const auto tail = [&byte](char32_t value) { byte(0x80 | (value & 0x3F)); };
-    if (codePoint < 0x80) {
-        byte(codePoint);
-    } else if (codePoint < 0x800) {
-        byte(0xC0 | (codePoint >> 6));
-        tail(codePoint);
-    } else if (codePoint < 0x10000) {
-        byte(0xE0 | (codePoint >> 12));
-        tail(codePoint >> 6);
-        tail(codePoint);
-    } else {
-        byte(0xF0 | (codePoint >> 18));
-        tail(codePoint >> 12);
-        tail(codePoint >> 6);
-        tail(codePoint);
-    }
+    const auto tail = [codePoint](int shift) { return static_cast<char>(0x80 | ((codePoint >> shift) & 0x3F)); };
+    const auto head = [codePoint](char32_t mark, int shift) { return static_cast<char>(mark | (codePoint >> shift)); };
+    if (codePoint < 0x80)
+        text += static_cast<char>(codePoint);
+    else if (codePoint < 0x800)
+        text.append({head(0xC0, 6), tail(0)});
+    else if (codePoint < 0x10000)
+        text.append({head(0xE0, 12), tail(6), tail(0)});
+    else
+        text.append({head(0xF0, 18), tail(12), tail(6), tail(0)});
 }
 
 char32_t NextCodePoint(std::wstring_view text, std::size_t& at)

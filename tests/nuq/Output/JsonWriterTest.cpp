@@ -84,6 +84,24 @@ TEST(JsonWriter, WritesNumbersThatReadBackTheSame)
     EXPECT_EQ(Written(HUGE_VAL), "null");
 }
 
+TEST(JsonWriter, WritesIdsAsTexts)
+{
+    JsonWriter json;
+    json.NumberAsText(-2147483648LL);
+    EXPECT_EQ(json.Buffer(), "\"-2147483648\"");
+}
+
+TEST(JsonWriter, WritesLongTextsWhereverASpecialCharacterStands)
+{
+    for (const std::size_t at : {0, 1, 254, 255, 256, 257, 511, 512, 599}) {
+        std::wstring text(600, L'x');
+        std::string expected(600, 'x');
+        text[at] = L'"';
+        expected.replace(at, 1, "\\\"");
+        EXPECT_EQ(Written(text), "\"" + expected + "\"") << at;
+    }
+}
+
 TEST(JsonWriter, EscapesKeysFromOutside)
 {
     JsonWriter json;
