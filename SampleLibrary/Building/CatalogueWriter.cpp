@@ -15,6 +15,15 @@ namespace {
 /// Largest part: it bounds the memory of what is made but not yet written.
 constexpr std::size_t PartSize = 200;
 
+/// As many components as the source describes for the categories at hand; further groups of categories share them out
+/// among each other, but each has one.
+std::size_t DefaultCount(const std::vector<std::size_t>& natural, const std::vector<std::size_t>& weights)
+{
+    const std::size_t described = std::accumulate(natural.begin(), natural.end(), std::size_t{0});
+    const std::size_t possible = std::accumulate(weights.begin(), weights.end(), std::size_t{0});
+    return std::min(possible, std::max(described, weights.size()));
+}
+
 ComponentMaker MakerFor(const ProductSource& source, const CategoryNode& node)
 {
     return ComponentMaker(source, source.EndCategories[node.EndCategory], node.Name, node.ComponentIdStem);
@@ -56,8 +65,8 @@ CategoryTree CatalogueWriter::MakeTree(const BuildOptions& options) const
             weights.push_back(natural[node.EndCategory]);
         }
     }
-    const std::size_t all = std::accumulate(natural.begin(), natural.end(), std::size_t{0});
-    SetComponentCounts(tree, Shares(options.Components == 0 ? all : options.Components, weights));
+    const std::size_t count = options.Components == 0 ? DefaultCount(natural, weights) : options.Components;
+    SetComponentCounts(tree, Shares(count, weights));
     return tree;
 }
 

@@ -31,10 +31,11 @@ std::string Numbered(const std::string& stem, std::size_t index)
     return stem + digits.data();
 }
 
-std::string NumberLabel(const Parameter& parameter, const Unit& unit, const std::string& value, Language language)
+std::string ValueLabel(const Parameter& parameter, const Unit& unit, const std::string& value, Language language)
 {
+    const bool isNothing = value == "0" || value == "false";
     const std::string& label =
-        In(language, value == "0" && !parameter.ZeroLabel.Chinese.empty() ? parameter.ZeroLabel : parameter.Label);
+        In(language, isNothing && !parameter.ZeroLabel.Chinese.empty() ? parameter.ZeroLabel : parameter.Label);
     if (label.empty()) {
         return Trimmed(value + ' ' + unit.Symbol);
     }
@@ -79,7 +80,7 @@ std::string ComponentMaker::AxisText(std::size_t axis, Language language) const
     if (parameter.Kind == ValueKind::Choice) {
         return In(language, m_source.Enumerations.at(parameter.Enumeration).at(value).Name);
     }
-    return NumberLabel(parameter, m_source.Units.at(parameter.Unit), value, language);
+    return ValueLabel(parameter, m_source.Units.at(parameter.Unit), value, language);
 }
 
 std::string ComponentMaker::Name(Language language, int series) const

@@ -27,7 +27,7 @@ struct Parameter
     BilingualText Name;
     BilingualText Label; ///< how a value stands in a component name: "{}" is the value, "{x10}" ten times it; empty:
                          ///< value and unit
-    BilingualText ZeroLabel; ///< how the value 0 stands there; empty: as Label says
+    BilingualText ZeroLabel; ///< how 0 or false stands there; empty: as Label says
     bool IsEssential = false;
     bool IsGeometry = false;
     bool IsDriveParameter = false;

@@ -72,7 +72,7 @@ ValueKind KindOf(const std::string& type)
     return ValueKind::Choice;
 }
 
-/// A label cell holds one text for both languages, one for each, or one for each and then the same for the value 0.
+/// A label cell holds one text for both languages, one for each, or one for each and then the same for 0 or false.
 void SetLabels(Parameter& parameter, const std::string& cell)
 {
     if (cell == "-") {
