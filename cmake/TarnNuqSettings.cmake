@@ -27,7 +27,8 @@ target_compile_features(tarnnuq_build_settings INTERFACE cxx_std_17)
 target_compile_definitions(tarnnuq_build_settings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH)
 if(MSVC)
-    target_compile_options(tarnnuq_build_settings INTERFACE /W4 /utf-8 $<$<BOOL:${TARNNUQ_WERROR}>:/WX>)
+    # 4251, 4275: exported classes hold standard and Qt types; host and library are built with one compiler.
+    target_compile_options(tarnnuq_build_settings INTERFACE /W4 /utf-8 /wd4251 /wd4275 $<$<BOOL:${TARNNUQ_WERROR}>:/WX>)
 else()
     target_compile_options(tarnnuq_build_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual

@@ -2,7 +2,7 @@
 
 #include "Records/ICategory.h"
 
-#include <cstdint>
+#include <QRandomGenerator>
 
 namespace tarnnuq {
 
@@ -17,16 +17,12 @@ std::size_t TableSize(int count)
     return size;
 }
 
-// Ids are often consecutive or multiples of a round number: spread them over the upper bits.
-std::size_t Spread(int id)
-{
-    return static_cast<std::size_t>((static_cast<std::uint32_t>(id) * UINT64_C(0x9E3779B97F4A7C15)) >> 24);
-}
-
 } // namespace
 
 // One block of memory, at most half full, instead of a node for each id.
-CategoryIdIndex::CategoryIdIndex(QList<ICategory>& categories) : m_slots(TableSize(categories.size()), Slot{0, nullptr})
+CategoryIdIndex::CategoryIdIndex(QList<ICategory>& categories)
+    : m_slots(TableSize(categories.size()), Slot{0, nullptr}),
+      m_multiplier(QRandomGenerator::global()->generate64() | 1U)
 {
     for (ICategory& category : categories) {
         Slot& slot = m_slots[Probe(category.Id)];
@@ -44,7 +40,8 @@ ICategory* CategoryIdIndex::Find(int id) const
 std::size_t CategoryIdIndex::Probe(int id) const
 {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t slot = Spread(id) & mask;
+    // The upper bits of the product depend on all bits of the id.
+    auto slot = static_cast<std::size_t>((static_cast<std::uint32_t>(id) * m_multiplier) >> 32) & mask;
     while (m_slots[slot].category && m_slots[slot].id != id) {
         slot = (slot + 1) & mask;
     }

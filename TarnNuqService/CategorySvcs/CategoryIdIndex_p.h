@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <cstdint>
 #include <vector>
 
 namespace tarnnuq {
@@ -8,6 +9,8 @@ namespace tarnnuq {
 class ICategory;
 
 /// Finds categories by their ids; of several with one id the first in list order. Good until the list changes.
+///
+/// Ids come from outside: the hash is another one in each index, so that no list of ids is bad for all.
 class CategoryIdIndex
 {
 public:
@@ -27,6 +30,7 @@ private:
     std::size_t Probe(int id) const;
 
     std::vector<Slot> m_slots;
+    std::uint64_t m_multiplier;
 };
 
 } // namespace tarnnuq

@@ -7,6 +7,7 @@
 #include "Common/DebugWarning.h"
 #include "Common/ReleaseReply.h"
 #include "EnvSvcs/EnvService.h"
+#include "ResponseHandlers/RequestErrorText_p.h"
 #include "tarnnuq/AppService.h"
 #include "tarnnuq/INuqLogger.h"
 #include "tarnnuq/NuqLogObject.h"
@@ -28,7 +29,7 @@ namespace tarnnuq {
 namespace {
 
 constexpr WarningSource RequestSource{
-    "CategorySvcs/PublicCategoryService.cpp", "tarnnuq::PublicCategoryService::RequestCategories"};
+    "CategorySvcs/PublicCategoryService.cpp", __LINE__, "tarnnuq::PublicCategoryService::RequestCategories"};
 
 // Trees are a few levels deep, and scanning for so few parents is cheaper than an index. Longer chains come from data
 // that is no tree, and must not take a scan of the list for each of its categories.
@@ -42,9 +43,7 @@ QString MajorText()
 
 void LogRequestError(const QNetworkReply& reply)
 {
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    INuqLogger::Get()->Error(
-        QStringLiteral("request error. code:%1, message:%2").arg(QString::number(status), reply.errorString()));
+    INuqLogger::Get()->Error(RequestErrorText("request error. code:%1, message:%2", reply));
 }
 
 QByteArray TakeBody(QNetworkReply& reply)
@@ -119,12 +118,12 @@ void PublicCategoryService::RequestCategories(QString keyword)
     request.setUrl(QUrl(url, QUrl::TolerantMode));
     ConfigureAuthorization(request);
     if (!m_spNetworkManager) {
-        WarnNull(RequestSource, __LINE__, L"m_spNetworkManager 为空");
+        WarnNull(RequestSource, L"m_spNetworkManager 为空");
         return;
     }
     QNetworkReply* pReply = m_spNetworkManager->get(request);
     if (!pReply) {
-        WarnNull(RequestSource, __LINE__, L"pReply 为空");
+        WarnNull(RequestSource, L"pReply 为空");
         return;
     }
     connect(pReply, &QNetworkReply::finished, this, [this, pReply] { HandleReply(*pReply); });
@@ -170,9 +169,10 @@ void PublicCategoryService::ConfigureAuthorization(QNetworkRequest& request) con
 
 QString PublicCategoryService::CategoriesUrl(const QString& keyword) const
 {
+    const QString major = MajorText();
     const std::wstring version = AppService::Get()->GeFormattedProductVersion(L"0.0");
     const QString url = QStringLiteral("%1/v3/categories?component_type=system&major=%2&software_version=%3")
-                            .arg(m_apiEndPoint, MajorText(), QString::fromStdWString(version));
+                            .arg(m_apiEndPoint, major, QString::fromStdWString(version));
     return keyword.isEmpty() ? url : url + QLatin1String("&keyword=") + UrlEncoder::Encode(keyword, "utf-8");
 }
 

@@ -31,15 +31,18 @@ public:
     static PublicCategoryService* Get();
 
     /// Requests the categories, or only their counts when they are known; the result arrives through
-    /// OnCategoriesUpdated(). Without a configured endpoint the request fails like any other.
+    /// OnCategoriesUpdated(). Without a configured endpoint the request fails like any other; where no request can be
+    /// sent at all, a debug warning is raised and no signal follows.
     /// @param keyword counts only components that match it; empty for all; percent-encoded here
     void RequestCategories(QString keyword);
 
-    /// @param id a category id in plain decimal
+    /// Looks a category up by its id.
+    /// @param id a category id in plain decimal; "07", "+7" and blanks match nothing
     /// @return the first category with that id, owned by the cache and valid until the next reply changes it; null
     /// when there is none
     ICategory* GetCategoryById(std::wstring id);
 
+    /// Walks from a category to its outermost ancestor in the cache.
     /// @param id a category id in plain decimal
     /// @return the chain from the outermost ancestor in the cache down to the category itself, each once; empty when
     /// there is no such category. Pointers as in GetCategoryById().

@@ -4,6 +4,7 @@
 
 #include <QVector>
 #include <QtAlgorithms>
+#include <algorithm>
 
 namespace tarnnuq {
 
@@ -25,12 +26,50 @@ QVector<WeightKey> WeightKeys(const QList<ICategory>& categories)
     return keys;
 }
 
+/// Thrown out of a sort that takes more comparisons than weights that nobody chose ever do.
+struct TooManyComparisons
+{
+};
+
+/// Compares weights and gives up in time: qSort takes the square of their number, and a stack as deep as they are many,
+/// on weights that were chosen for it.
+class BoundedComparison
+{
+public:
+    explicit BoundedComparison(qint64& comparisonsLeft) : m_comparisonsLeft(comparisonsLeft) {}
+
+    bool operator()(const WeightKey& a, const WeightKey& b) const
+    {
+        if (--m_comparisonsLeft < 0) {
+            throw TooManyComparisons();
+        }
+        return a.weight < b.weight;
+    }
+
+private:
+    qint64& m_comparisonsLeft;
+};
+
+qint64 LargestComparisonCount(int size)
+{
+    qint64 levels = 1;
+    for (int rest = size; rest > 1; rest /= 2) {
+        ++levels;
+    }
+    return 64 * levels * (size + 1);
+}
+
 // qSort is what hosts know this order from: its way with equal weights is kept, deprecated or not.
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 void SortKeys(QVector<WeightKey>& keys)
 {
-    qSort(keys.begin(), keys.end(), [](const WeightKey& a, const WeightKey& b) { return a.weight < b.weight; });
+    qint64 comparisonsLeft = LargestComparisonCount(keys.size());
+    try {
+        qSort(keys.begin(), keys.end(), BoundedComparison(comparisonsLeft));
+    } catch (const TooManyComparisons&) {
+        std::sort(keys.begin(), keys.end(), [](const WeightKey& a, const WeightKey& b) { return a.weight < b.weight; });
+    }
 }
 QT_WARNING_POP
 

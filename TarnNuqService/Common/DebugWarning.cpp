@@ -4,10 +4,13 @@
 
 namespace tarnnuq {
 
-void WarnNull(const WarningSource& source, int line, const wchar_t* message, const wchar_t* date)
+void WarnNull(const WarningSource& source, const wchar_t* message, const wchar_t* date) noexcept
 {
-    zept::DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(
-        source.file, line, source.function, message, L"tarnnuq", date);
+    try {
+        zept::DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(
+            source.file, source.line, source.function, message, L"tarnnuq", date);
+    } catch (...) { // NOLINT(bugprone-empty-catch)
+    }
 }
 
 } // namespace tarnnuq

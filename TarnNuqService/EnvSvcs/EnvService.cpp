@@ -1,6 +1,7 @@
 #include "EnvSvcs/EnvService.h"
 
 #include "Common/DebugWarning.h"
+#include "ResponseHandlers/JsonReading_p.h"
 #include "tarnnuq/AppService.h"
 #include "tarnnuq/INuqLogger.h"
 #include "tarnnuq/NuqLogObject.h"
@@ -18,16 +19,11 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource CurrentEnvSource{"EnvSvcs/EnvService.cpp", "tarnnuq::EnvService::GetWabCurrentEnv"};
+constexpr WarningSource CurrentEnvSource{"EnvSvcs/EnvService.cpp", __LINE__, "tarnnuq::EnvService::GetWabCurrentEnv"};
 
 QString Normalized(const QString& text)
 {
     return text.trimmed().toLower();
-}
-
-std::wstring TextMember(const QJsonObject& object, const QString& key)
-{
-    return object.value(key).toString().toStdWString();
 }
 
 /// Logs a configuration file's path, reads the file when it is there, logs its content and hands it on.
@@ -35,9 +31,9 @@ std::wstring TextMember(const QJsonObject& object, const QString& key)
 template <typename Use>
 void ReadConfig(const char* name, const std::wstring& path, QIODevice::OpenMode mode, Use&& use)
 {
-    const QString caption = QString::fromLatin1(name);
-    INuqLogger::Get()->Info({QString(caption + QLatin1String(" file path: ")), path});
     try {
+        const QString caption = QString::fromLatin1(name);
+        INuqLogger::Get()->Info({QString(caption + QLatin1String(" file path: ")), path});
         QFile file(QString::fromStdWString(path));
         if (!file.exists() || !file.open(mode)) {
             return;
@@ -87,7 +83,7 @@ std::wstring EnvService::GetWabCurrentEnv()
 {
     const wab::IBaseConfigManager* pConfigMgr = wab::IBaseConfigManager::Get();
     if (!pConfigMgr) {
-        WarnNull(CurrentEnvSource, __LINE__, L"pConfigMgr为空");
+        WarnNull(CurrentEnvSource, L"pConfigMgr为空");
         return {};
     }
     return zept::StringUtil::ToWString(pConfigMgr->GetCurrentEnv());
@@ -133,9 +129,9 @@ void EnvService::ParseNuqEnvConfig()
 {
     ReadJsonConfig(
         "nuq env config", m_appDir + L"/nuq_env_config/nuq_env_config.json", [this](const QJsonObject& config) {
-            m_wabEnvConfigFile = TextMember(config, QStringLiteral("wab_env"));
-            m_pyxEnvConfigFile = TextMember(config, QStringLiteral("pyx_env"));
-            m_envMapFile = TextMember(config, QStringLiteral("env_map"));
+            m_wabEnvConfigFile = TextMember(config, QLatin1String("wab_env"));
+            m_pyxEnvConfigFile = TextMember(config, QLatin1String("pyx_env"));
+            m_envMapFile = TextMember(config, QLatin1String("env_map"));
         });
 }
 

@@ -5,8 +5,6 @@
 #include <map>
 #include <string>
 
-class QString;
-
 namespace tarnnuq {
 
 /// The configured environments and the base addresses of the cloud services.
@@ -14,7 +12,8 @@ namespace tarnnuq {
 /// The configuration files below the host's application folder are read once, when the first operation needs them;
 /// a later change of the host's environment is not noticed by the endpoints. Missing, unreadable or malformed files
 /// leave texts and endpoints empty, silently. Reading them is thread-safe; everything else belongs to the main
-/// thread. The one instance ends with the process.
+/// thread. The one instance ends with the process. The host's logger, application service and configuration manager are
+/// asked while it is made: they must not call back into the endpoints.
 class TARNNUQSERVICE_EXPORT EnvService
 {
 public:

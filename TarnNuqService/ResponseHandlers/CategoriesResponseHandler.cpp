@@ -14,7 +14,7 @@ namespace tarnnuq {
 namespace {
 
 constexpr WarningSource Source{
-    "ResponseHandlers/CategoriesResponseHandler.cpp", "tarnnuq::CategoriesResponseHandler::HandleData"};
+    "ResponseHandlers/CategoriesResponseHandler.cpp", __LINE__, "tarnnuq::CategoriesResponseHandler::HandleData"};
 
 void ReadCategory(const QJsonObject& object, ICategory& category)
 {
@@ -51,7 +51,7 @@ void CategoriesResponseHandler::HandleData(const QJsonValue& data)
     for (const QJsonValue& element : array) {
         auto spCategory = MakeRecord<ICategory>();
         if (!spCategory) {
-            WarnNull(Source, __LINE__, L"spCategory 为空");
+            WarnNull(Source, L"spCategory 为空");
             continue;
         }
         ReadCategory(element.toObject(), *spCategory);

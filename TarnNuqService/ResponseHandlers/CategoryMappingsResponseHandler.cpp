@@ -12,8 +12,8 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{
-    "ResponseHandlers/CategoryMappingsResponseHandler.cpp", "tarnnuq::CategoryMappingsResponseHandler::HandleData"};
+constexpr WarningSource Source{"ResponseHandlers/CategoryMappingsResponseHandler.cpp", __LINE__,
+    "tarnnuq::CategoryMappingsResponseHandler::HandleData"};
 
 ICategoryMapping::MajorType MajorOfNumber(int number)
 {
@@ -66,7 +66,7 @@ void CategoryMappingsResponseHandler::HandleData(const QJsonValue& data)
     for (const QJsonValue& element : array) {
         auto spCategoryMapping = MakeRecord<ICategoryMapping>();
         if (!spCategoryMapping) {
-            WarnNull(Source, __LINE__, L"spCategoryMapping 为空");
+            WarnNull(Source, L"spCategoryMapping 为空");
             continue;
         }
         ReadMapping(element.toObject(), *spCategoryMapping);

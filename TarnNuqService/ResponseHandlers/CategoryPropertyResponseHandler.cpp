@@ -14,8 +14,8 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{
-    "ResponseHandlers/CategoryPropertyResponseHandler.cpp", "tarnnuq::CategoryPropertyResponseHandler::HandleData"};
+constexpr WarningSource Source{"ResponseHandlers/CategoryPropertyResponseHandler.cpp", __LINE__,
+    "tarnnuq::CategoryPropertyResponseHandler::HandleData"};
 
 void ReadDefinitions(
     const QJsonArray& array, std::map<std::wstring, std::shared_ptr<IParameterDefinition>>& definitions)
@@ -23,7 +23,7 @@ void ReadDefinitions(
     for (const QJsonValue& element : array) {
         auto spParameterDefinition = MakeRecord<IParameterDefinition>();
         if (!spParameterDefinition) {
-            WarnNull(Source, __LINE__, L"spParameterDefinition 为空");
+            WarnNull(Source, L"spParameterDefinition 为空");
             continue;
         }
         ReadParameterDefinition(element.toObject(), *spParameterDefinition);
@@ -55,7 +55,7 @@ void CategoryPropertyResponseHandler::HandleData(const QJsonValue& data)
     }
     m_result = MakeRecord<ICategoryProperty>();
     if (!m_result) {
-        WarnNull(Source, __LINE__, L"m_result 为空");
+        WarnNull(Source, L"m_result 为空");
         return;
     }
     m_result->CategoryId = IdText(object.value(QLatin1String("categoryId")));

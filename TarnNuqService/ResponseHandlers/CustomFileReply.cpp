@@ -35,7 +35,8 @@ void CustomFileReply::PrivateHandleReply()
             SaveBody();
         }
     } catch (...) {
-        m_error = L"error on saving file.";
+        // A request error that is told already stays: only its record is lost.
+        m_error = m_error.empty() ? L"error on saving file." : m_error;
     }
 }
 
@@ -45,9 +46,9 @@ bool CustomFileReply::ReportRequestError()
         return false;
     }
     const QString text = RequestErrorText(PlainRequestErrorPattern, *m_reply);
+    m_error = text.toStdWString();
     INuqLogger::Get()->Error(QString(
         QLatin1String("fail to get response from ") + m_reply->url().toString() + QLatin1String("\r\n") + text));
-    m_error = text.toStdWString();
     return true;
 }
 

@@ -6,7 +6,9 @@ namespace tarnnuq {
 
 /// A pending reply whose body is saved to a file.
 ///
-/// A transport or HTTP error leaves the file untouched; a file that was written in part stays as it is.
+/// A transport or HTTP error leaves the file untouched. A file that cannot be opened ends with the error "fail to open
+/// file to write.", one that cannot be written in full (a full disk, say) with "error on saving file."; what was
+/// written of it stays as it is.
 class TARNNUQSERVICE_EXPORT CustomFileReply : public CustomReplyBase
 {
 public:

@@ -4,8 +4,8 @@
 #include "ResponseHandlers/ResponseHandlerRegistry.h"
 #include "ResponseHandlers/TemplateExport.h"
 
-#include <exception>
 #include <memory>
+#include <utility>
 
 namespace tarnnuq {
 

@@ -25,17 +25,19 @@ public:
 
     /// Attaches the network reply and takes it over.
     ///
-    /// A reply attached before is given up: it is deleted later and no longer reacted to. A reply that has already
-    /// finished is not noticed: no Finished() follows. Null ends the pending reply at once with the error "internal
-    /// reply is null." and emits Finished() inside this call.
+    /// A reply attached before is given up: it is deleted later and no longer reacted to; attaching the same one again
+    /// changes nothing. A reply that has already finished is not noticed: no Finished() follows. Null ends the pending
+    /// reply at once with the error "internal reply is null." and emits Finished() inside this call.
     /// @param reply the running reply; may be null
     void SetReply(QNetworkReply* reply);
 
-    /// @return the error text, empty on success; valid from Finished() on
+    /// @return the error text, empty on success; valid from Finished() on. The text of an earlier end stays until the
+    /// next attached reply has been handled.
     std::wstring Error() const;
 
 Q_SIGNALS:
-    /// The reply has been handled, well or not; see Error(). Emitted once for each attached reply.
+    /// The reply has been handled, well or not; see Error(). Emitted once for each attached reply that finishes: not
+    /// for one that was given up for another, or deleted (by its network manager, say) before it finished.
     void Finished();
 
 private Q_SLOTS:

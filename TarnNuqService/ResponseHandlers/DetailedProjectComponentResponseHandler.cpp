@@ -15,7 +15,7 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{"ResponseHandlers/DetailedProjectComponentResponseHandler.cpp",
+constexpr WarningSource Source{"ResponseHandlers/DetailedProjectComponentResponseHandler.cpp", __LINE__,
     "tarnnuq::DetailedProjectComponentResponseHandler::HandleData"};
 
 void ReadFamilyTypeNames(const QJsonArray& array, IDetailedProjectComponent& component)
@@ -66,7 +66,7 @@ void DetailedProjectComponentResponseHandler::HandleData(const QJsonValue& data)
     }
     m_result = MakeRecord<IDetailedProjectComponent>();
     if (!m_result) {
-        WarnNull(Source, __LINE__, L"m_result 为空");
+        WarnNull(Source, L"m_result 为空");
         return;
     }
     ReadCommonComponentMembers(object, *m_result);

@@ -13,6 +13,7 @@ class QNetworkReply;
 namespace tarnnuq {
 
 /// Runs one handling of a reply on a pair of result and error fields.
+/// @internal Visible only because the handler templates are.
 ///
 /// @param result the result field; default-constructed first
 /// @param ownError the error field; emptied first

@@ -39,8 +39,10 @@ bool HasSurrogates(const ushort* text, int size)
 std::wstring WideText(const QString& text)
 {
     const ushort* utf16 = text.utf16();
-    if (sizeof(wchar_t) != sizeof(ushort) && HasSurrogates(utf16, text.size())) {
-        return text.toStdWString();
+    if constexpr (sizeof(wchar_t) != sizeof(ushort)) {
+        if (HasSurrogates(utf16, text.size())) {
+            return text.toStdWString();
+        }
     }
     return std::wstring(utf16, utf16 + text.size());
 }

@@ -15,7 +15,7 @@ namespace tarnnuq {
 namespace {
 
 constexpr WarningSource Source{
-    "ResponseHandlers/LegendsResponseHandler.cpp", "tarnnuq::LegendsResponseHandler::HandleData"};
+    "ResponseHandlers/LegendsResponseHandler.cpp", __LINE__, "tarnnuq::LegendsResponseHandler::HandleData"};
 
 } // namespace
 
@@ -40,7 +40,7 @@ void LegendsResponseHandler::HandleData(const QJsonValue& data)
         const QJsonObject object = element.toObject();
         auto spLegend = MakeRecord<ILegend>();
         if (!spLegend) {
-            WarnNull(Source, __LINE__, L"spLegend 为空");
+            WarnNull(Source, L"spLegend 为空");
             continue;
         }
         ReadLegend(object, thumbnailUrl, *spLegend);

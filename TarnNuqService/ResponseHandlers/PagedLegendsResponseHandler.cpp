@@ -16,7 +16,7 @@ namespace tarnnuq {
 namespace {
 
 constexpr WarningSource Source{
-    "ResponseHandlers/PagedLegendsResponseHandler.cpp", "tarnnuq::PagedLegendsResponseHandler::HandleData"};
+    "ResponseHandlers/PagedLegendsResponseHandler.cpp", __LINE__, "tarnnuq::PagedLegendsResponseHandler::HandleData"};
 
 } // namespace
 
@@ -45,7 +45,7 @@ void PagedLegendsResponseHandler::HandleData(const QJsonValue& data)
     for (const QJsonValue& element : array) {
         auto spLegend = MakeRecord<ILegend>();
         if (!spLegend) {
-            WarnNull(Source, __LINE__, L"spLegend为空", L"2020-05-29");
+            WarnNull(Source, L"spLegend为空", L"2020-05-29");
             continue;
         }
         const QJsonObject legend = element.toObject();

@@ -13,7 +13,7 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{"ResponseHandlers/PagedProjectComponentsResponseHandler.cpp",
+constexpr WarningSource Source{"ResponseHandlers/PagedProjectComponentsResponseHandler.cpp", __LINE__,
     "tarnnuq::PagedProjectComponentsResponseHandler::HandleData"};
 
 int TotalCount(const QJsonValue& value)

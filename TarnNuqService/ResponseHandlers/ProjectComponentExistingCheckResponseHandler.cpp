@@ -10,7 +10,7 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{"ResponseHandlers/ProjectComponentExistingCheckResponseHandler.cpp",
+constexpr WarningSource Source{"ResponseHandlers/ProjectComponentExistingCheckResponseHandler.cpp", __LINE__,
     "tarnnuq::ProjectComponentExistingCheckResponseHandler::HandleData"};
 
 } // namespace
@@ -37,7 +37,7 @@ void ProjectComponentExistingCheckResponseHandler::HandleData(const QJsonValue& 
     }
     m_result = MakeRecord<ProjectComponentExistingCheck>();
     if (!m_result) {
-        WarnNull(Source, __LINE__, L"m_result 为空");
+        WarnNull(Source, L"m_result 为空");
         return;
     }
     m_result->Exist = BoolMember(object, QLatin1String("exist"));

@@ -32,7 +32,7 @@ void AppendComponents(const QJsonArray& array, const ThumbnailUrl& thumbnailUrl,
     for (const QJsonValue& element : array) {
         const auto spProjectComponent = MakeRecord<IProjectComponent>();
         if (!spProjectComponent) {
-            WarnNull(source, __LINE__, L"spProjectComponent 为空");
+            WarnNull(source, L"spProjectComponent 为空");
             continue;
         }
         const QJsonObject object = element.toObject();

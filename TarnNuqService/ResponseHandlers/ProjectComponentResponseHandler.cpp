@@ -12,8 +12,8 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{
-    "ResponseHandlers/ProjectComponentResponseHandler.cpp", "tarnnuq::ProjectComponentResponseHandler::HandleData"};
+constexpr WarningSource Source{"ResponseHandlers/ProjectComponentResponseHandler.cpp", __LINE__,
+    "tarnnuq::ProjectComponentResponseHandler::HandleData"};
 
 } // namespace
 
@@ -39,7 +39,7 @@ void ProjectComponentResponseHandler::HandleData(const QJsonValue& data)
     }
     m_result = MakeRecord<IProjectComponent>();
     if (!m_result) {
-        WarnNull(Source, __LINE__, L"m_result 为空");
+        WarnNull(Source, L"m_result 为空");
         return;
     }
     ReadCommonComponentMembers(object, *m_result);

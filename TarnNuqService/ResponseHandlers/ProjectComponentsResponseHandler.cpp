@@ -12,8 +12,8 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{
-    "ResponseHandlers/ProjectComponentsResponseHandler.cpp", "tarnnuq::ProjectComponentsResponseHandler::HandleData"};
+constexpr WarningSource Source{"ResponseHandlers/ProjectComponentsResponseHandler.cpp", __LINE__,
+    "tarnnuq::ProjectComponentsResponseHandler::HandleData"};
 
 } // namespace
 

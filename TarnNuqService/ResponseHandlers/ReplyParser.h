@@ -19,9 +19,12 @@ enum class ReplyWording
 
 /// What all response handlers do with a finished reply before they look at its payload: transport checks, log
 /// records, JSON. One place, so that the two handler branches differ in wording alone.
+/// @internal Visible only because the handler templates are; not part of what hosts call.
 class TARNNUQSERVICE_EXPORT ReplyParser
 {
 public:
+    ReplyParser() = delete;
+
     /// Reads a finished reply into the object at the top of its JSON body.
     ///
     /// Writes one information record for a body that arrived and one error record for each failure but a null reply.

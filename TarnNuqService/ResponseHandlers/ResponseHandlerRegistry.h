@@ -4,6 +4,7 @@
 #include "TarnNuqServiceExport.h"
 
 #include <map>
+#include <memory>
 #include <string>
 #include <typeinfo>
 
@@ -42,11 +43,13 @@ IResponseHandler<T>* ResponseHandlerRegistry::Get()
     if (known != handlers.end()) {
         return known->second;
     }
-    auto* handler = static_cast<IResponseHandler<T>*>(Create(key));
-    if (handler) {
-        handlers.emplace(key, handler);
+    std::unique_ptr<IResponseHandler<T>> handler(static_cast<IResponseHandler<T>*>(Create(key)));
+    if (!handler) {
+        return nullptr;
     }
-    return handler;
+    const auto stored = handlers.emplace(key, handler.get()).first;
+    handler.release();
+    return stored->second;
 }
 
 #define TARNNUQSERVICE_DECLARE_INSTANCE(T)                                                                             \

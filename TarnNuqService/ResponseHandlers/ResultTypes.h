@@ -7,6 +7,7 @@
 
 namespace tarnnuq {
 
+// Declared only: a receiver of results includes the headers of the records that it reads.
 class ICategory;
 class ICategoryMapping;
 class ICategoryProperty;

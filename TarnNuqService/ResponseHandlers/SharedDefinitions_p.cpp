@@ -19,7 +19,7 @@ SharedDefinitions::SharedDefinitions(const QJsonArray& array, const WarningSourc
     for (const QJsonValue& element : array) {
         auto spParameterDefinition = MakeRecord<IParameterDefinition>();
         if (!spParameterDefinition) {
-            WarnNull(m_source, __LINE__, L"spParameterDefinition 为空");
+            WarnNull(m_source, L"spParameterDefinition 为空");
             continue;
         }
         ReadParameterDefinition(element.toObject(), *spParameterDefinition);
@@ -71,7 +71,7 @@ std::vector<std::shared_ptr<IParameter>> SharedDefinitions::MakeInArrayOrder() c
         if (spParameter) {
             spParameter->Definition = spDefinition;
         } else {
-            WarnNull(m_source, __LINE__, L"spParameter 为空");
+            WarnNull(m_source, L"spParameter 为空");
         }
         made.push_back(std::move(spParameter));
     }

@@ -17,20 +17,20 @@ namespace tarnnuq {
 namespace {
 
 constexpr WarningSource Source{
-    "ResponseHandlers/SpecificationResponseHandler.cpp", "tarnnuq::SpecificationResponseHandler::HandleData"};
+    "ResponseHandlers/SpecificationResponseHandler.cpp", __LINE__, "tarnnuq::SpecificationResponseHandler::HandleData"};
 
 void ReadParameters(const QJsonArray& array, ISpecification& specification)
 {
     for (const QJsonValue& element : array) {
         auto spParameterDefinition = MakeRecord<IParameterDefinition>();
         if (!spParameterDefinition) {
-            WarnNull(Source, __LINE__, L"spParameterDefinition 为空");
+            WarnNull(Source, L"spParameterDefinition 为空");
             continue;
         }
         ReadParameterDefinition(element.toObject(), *spParameterDefinition);
         auto spParameter = MakeRecord<IParameter>();
         if (!spParameter) {
-            WarnNull(Source, __LINE__, L"spParameter 为空");
+            WarnNull(Source, L"spParameter 为空");
             continue;
         }
         spParameter->Definition = spParameterDefinition;
@@ -61,7 +61,7 @@ void SpecificationResponseHandler::HandleData(const QJsonValue& data)
     }
     m_result = MakeRecord<ISpecification>();
     if (!m_result) {
-        WarnNull(Source, __LINE__, L"m_result 为空");
+        WarnNull(Source, L"m_result 为空");
         return;
     }
     ReadParameters(object.value(QLatin1String("parameters")).toArray(), *m_result);

@@ -13,8 +13,8 @@ namespace tarnnuq {
 
 namespace {
 
-constexpr WarningSource Source{
-    "ResponseHandlers/SpecificationsResponseHandler.cpp", "tarnnuq::SpecificationsResponseHandler::HandleData"};
+constexpr WarningSource Source{"ResponseHandlers/SpecificationsResponseHandler.cpp", __LINE__,
+    "tarnnuq::SpecificationsResponseHandler::HandleData"};
 
 } // namespace
 
@@ -43,7 +43,7 @@ void SpecificationsResponseHandler::HandleData(const QJsonValue& data)
     for (const QJsonValue& element : familyTypes) {
         auto spSpecification = MakeRecord<ISpecification>();
         if (!spSpecification) {
-            WarnNull(Source, __LINE__, L"spSpecification 为空");
+            WarnNull(Source, L"spSpecification 为空");
             continue;
         }
         const QJsonObject familyType = element.toObject();
