@@ -13,9 +13,9 @@ class IPagedData
 public:
     IPagedData() = default;
     IPagedData(const IPagedData&) = default;
-    IPagedData(IPagedData&&) = default;
+    IPagedData(IPagedData&&) noexcept = default;
     IPagedData& operator=(const IPagedData&) = default;
-    IPagedData& operator=(IPagedData&&) = default;
+    IPagedData& operator=(IPagedData&&) noexcept = default;
     virtual ~IPagedData() = default;
 
     T List{};                    ///< The records of this page.
