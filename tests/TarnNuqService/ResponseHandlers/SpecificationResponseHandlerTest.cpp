@@ -234,14 +234,25 @@ TEST_F(SpecificationResponseHandlerTest, DefinitionThatCannotBeMadeIsReportedAnd
 
 TEST_F(SpecificationResponseHandlerTest, ParameterThatCannotBeMadeIsReportedAndSkipped)
 {
-    // The map's node behind a parameter is a block of the same size: the second parameter is the third block.
     const auto specification = MapWithoutMemory<SpecificationResponseHandler, IParameter>(
         "{\"parameters\":" + ThreeDefinitions() +
             R"(,"familyType":{"parameterValues":[{"name":"安装","value":"1"},{"name":"note","value":"2"}]}})",
-        3);
+        2);
     ExpectWarning("SpecificationResponseHandler", L"spParameter 为空");
     ASSERT_NE(specification, nullptr);
     EXPECT_THAT(ValuesOf(*specification), ElementsAre(Pair(L"note", L"2"), Pair(L"width", NotGiven)));
+}
+
+TEST_F(SpecificationResponseHandlerTest, ParameterThatCannotBeMadeLeavesAnEarlierOneOfItsName)
+{
+    const auto specification = MapWithoutMemory<SpecificationResponseHandler, IParameter>(
+        R"({"parameters":[{"name":"a","code":"1"},{"name":"a","code":"2"}],
+            "familyType":{"parameterValues":[{"name":"a","value":"v"}]}})",
+        2);
+    ExpectWarning("SpecificationResponseHandler", L"spParameter 为空");
+    ASSERT_NE(specification, nullptr);
+    ASSERT_THAT(ValuesOf(*specification), ElementsAre(Pair(L"a", L"v")));
+    EXPECT_EQ(specification->Parameters.at(L"a")->Definition->Code, L"1");
 }
 
 class SpecificationDefinitionTest : public HandlerFixture,

@@ -173,12 +173,23 @@ TEST_F(SpecificationsResponseHandlerTest, SpecificationThatCannotBeMadeIsReporte
 
 TEST_F(SpecificationsResponseHandlerTest, ParameterThatCannotBeMadeIsReportedAndMissingInItsSpecificationAlone)
 {
-    // The map's node behind a parameter is a block of the same size: the fourth parameter is the seventh block.
-    const auto specifications = MapWithoutMemory<SpecificationsResponseHandler, IParameter>(Reply(TwoFamilyTypes()), 7);
+    const auto specifications = MapWithoutMemory<SpecificationsResponseHandler, IParameter>(Reply(TwoFamilyTypes()), 4);
     ExpectWarning("SpecificationsResponseHandler", L"spParameter 为空");
     ASSERT_THAT(specifications, SizeIs(2));
     EXPECT_THAT(specifications[0]->Parameters, SizeIs(3));
     EXPECT_THAT(specifications[1]->Parameters, ElementsAre(Key(std::wstring(L"note")), Key(std::wstring(L"安装"))));
+}
+
+TEST_F(SpecificationsResponseHandlerTest, ParameterThatCannotBeMadeLeavesAnEarlierOneOfItsName)
+{
+    const auto specifications = MapWithoutMemory<SpecificationsResponseHandler, IParameter>(
+        R"({"parameters":[{"name":"a","code":"1"},{"name":"a","code":"2"}],
+            "familyTypes":[{"parameterValues":[{"name":"a","value":"v"}]}]})",
+        2);
+    ExpectWarning("SpecificationsResponseHandler", L"spParameter 为空");
+    ASSERT_THAT(specifications, SizeIs(1));
+    ASSERT_THAT(ValuesOf(*specifications[0]), ElementsAre(Pair(L"a", L"v")));
+    EXPECT_EQ(specifications[0]->Parameters.at(L"a")->Definition->Code, L"1");
 }
 
 class SpecificationsDefinitionTest : public HandlerFixture,
