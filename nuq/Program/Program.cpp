@@ -84,6 +84,9 @@ int RunProgram(int argc, char* argv[])
 {
     const std::vector<std::string> arguments = ArgumentsOf(argc, argv);
     QCoreApplication application(argc, argv);
+    // The only plug-ins that a console program would load are those that ask the desktop's network manager over D-Bus
+    // whether there is a network: an error says that better.
+    QCoreApplication::setLibraryPaths(QStringList());
     QCoreApplication::setApplicationName(QStringLiteral("nuq"));
     GlobalOptions options = PeekGlobalOptions(arguments);
     const auto translations = InstallLanguage(options);
