@@ -53,7 +53,7 @@ std::vector<NamedParameter> SharedDefinitions::MakeParameters(ParameterMap& para
         const std::size_t size = parameters.size();
         const auto stored =
             parameters.insert_or_assign(parameters.end(), m_definitions[index]->Name, std::move(made[index]));
-        if (parameters.size() == size) {
+        if (last && parameters.size() == size) {
             last->parameter = nullptr; // replaced, and gone with it
         }
         last = &named[index];
