@@ -65,7 +65,9 @@ std::string SourceFiles::Digest() const
     hash.addData(BuilderRevision, static_cast<int>(sizeof(BuilderRevision)));
     for (const std::string& name : Listed(m_root, m_root, QDirIterator::Subdirectories)) {
         const std::string text = Text(name);
-        hash.addData(QByteArray::fromStdString(name + '\0' + std::to_string(text.size()) + '\0' + text));
+        std::string entry = name;
+        entry.append(1, '\0').append(std::to_string(text.size())).append(1, '\0').append(text);
+        hash.addData(QByteArray::fromStdString(entry));
     }
     return hash.result().toHex().toStdString();
 }
