@@ -46,13 +46,26 @@ FaultRelay::FaultRelay(quint16 targetPort, QObject* parent)
 FaultRelay::FaultRelay(FaultRelaySettings settings, std::shared_ptr<FaultPlan> plan, QObject* parent)
     : QTcpServer(parent), m_settings(std::move(settings)), m_plan(std::move(plan))
 {
-    listen(AddressOf(m_settings.host), m_settings.port);
+    // A null address would make Qt listen on all of them.
+    const QHostAddress address = AddressOf(m_settings.host);
+    if (!address.isNull()) {
+        listen(address, m_settings.port);
+    }
 }
 
 FaultRelay::~FaultRelay()
 {
     close();
     qDeleteAll(Connections(*this));
+}
+
+QString FaultRelay::Error() const
+{
+    if (isListening()) {
+        return QString();
+    }
+    return serverError() == QAbstractSocket::UnknownSocketError ? QStringLiteral("The host is not known")
+                                                                : errorString();
 }
 
 void FaultRelay::Drain()

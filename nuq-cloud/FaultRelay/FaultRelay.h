@@ -32,7 +32,7 @@ public:
     quint16 Port() const { return serverPort(); }
 
     /// Why the address could not be bound; empty when it was.
-    QString Error() const { return isListening() ? QString() : errorString(); }
+    QString Error() const;
 
     /// Adds a rule; may be called from any thread.
     void AddRule(FaultRule rule) { m_plan->Add(std::move(rule)); }

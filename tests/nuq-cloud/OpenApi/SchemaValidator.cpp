@@ -1,7 +1,8 @@
 #include "nuq-cloud/OpenApi/SchemaValidator.h"
 
+#include "nuq-cloud/support/Matches.h"
+
 #include <algorithm>
-#include <regex>
 
 namespace cloudtest {
 namespace {
@@ -95,9 +96,7 @@ private:
         } else if (rule == "maxItems") {
             Require(!instance.is_array() || instance.size() <= limit, place, "has more than " + limit.dump());
         } else if (rule == "pattern") {
-            Require(!instance.is_string() ||
-                        std::regex_search(instance.get<std::string>(), std::regex(limit.get<std::string>())),
-                place, "does not match " + limit.dump());
+            Require(!instance.is_string() || Matches(instance, limit), place, "does not match " + limit.dump());
         } else {
             return false;
         }

@@ -1,6 +1,7 @@
 #include "FaultRelay/Fault.h"
 
 #include "nuq-cloud/support/CloudProcess.h"
+#include "nuq-cloud/support/Matches.h"
 #include "nuq-cloud/support/TestServer.h"
 #include "support/WaitFor.h"
 
@@ -8,7 +9,6 @@
 #include <QTemporaryDir>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <regex>
 #include <sstream>
 
 namespace cloudtest {
@@ -196,6 +196,15 @@ TEST_F(Program, SaysThatThePortIsTaken)
     }
 }
 
+TEST_F(Program, SaysThatTheHostIsNotKnown)
+{
+    for (const QStringList& further : {QStringList(), QStringList(QStringLiteral("--allow-faults"))}) {
+        ExpectRefused(Arguments({QStringLiteral("--host"), QStringLiteral("no such host")}) + further, 1,
+            "Cannot listen on no such host port 0: The host is not known. Choose another --port, or --port 0 for a "
+            "free one.");
+    }
+}
+
 TEST_F(Program, TellsItsVersionAndBeginsItsHelpWithExamples)
 {
     const Outcome version = Run({QStringLiteral("--version")});
@@ -220,9 +229,8 @@ TEST_F(Program, LogsOneLineARequestWithoutSecrets)
     ASSERT_EQ(cloud.WaitForEnd(), 0);
     const std::string log = cloud.Errors();
     const std::string time = R"(....-..-..T..:..:..\....Z )";
-    EXPECT_TRUE(
-        std::regex_match(log, std::regex(time + R"(r-1 GET /api/v1/projects\?access_token=\*\*\* 200 \d+ \d+\.\d\d\n)" +
-                                         time + R"(r-2 GET /api/v1/projects 401 \d+ \d+\.\d\d\n)")))
+    EXPECT_TRUE(Matches(log, '^' + time + R"(r-1 GET /api/v1/projects\?access_token=\*\*\* 200 \d+ \d+\.\d\d\n)" +
+                                 time + R"(r-2 GET /api/v1/projects 401 \d+ \d+\.\d\d\n$)"))
         << log;
     EXPECT_EQ(log.find("secret"), std::string::npos);
     EXPECT_EQ(log.find("demo-token"), std::string::npos);
