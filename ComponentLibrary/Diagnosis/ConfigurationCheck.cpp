@@ -14,7 +14,7 @@
 namespace componentlibrary {
 namespace {
 
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestFile = qint64{16} << 20;
 
 QString Tr(const char* text)
 {

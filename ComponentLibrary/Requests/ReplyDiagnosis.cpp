@@ -13,7 +13,7 @@
 namespace componentlibrary {
 namespace {
 
-constexpr qint64 kLargestErrorBody = 64 * 1024;
+constexpr qint64 kLargestErrorBody = qint64{64} << 10;
 constexpr int kLongestMessage = 1000;
 
 struct NetworkCause

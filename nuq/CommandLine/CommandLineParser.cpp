@@ -24,8 +24,7 @@ QString Tr(const char* text)
 QString Decoded(const std::string& value, const QString& name)
 {
     QTextCodec::ConverterState state;
-    const QString text =
-        QTextCodec::codecForName("UTF-8")->toUnicode(value.data(), static_cast<int>(value.size()), &state);
+    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(value.data(), static_cast<int>(value.size()), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0)
         throw UsageError(Tr(QT_TRANSLATE_NOOP("CommandLine", "The value of %1 is not valid UTF-8.")).arg(name));
     return text;

@@ -92,6 +92,7 @@ std::string Block(const std::string& title, const std::vector<Entry>& entries)
 std::vector<Entry> OptionEntries(const std::vector<OptionSpec>& options)
 {
     std::vector<Entry> entries;
+    entries.reserve(options.size());
     for (const OptionSpec& spec : options)
         entries.push_back({OptionLabel(spec), OptionText(spec)});
     return entries;
@@ -100,6 +101,7 @@ std::vector<Entry> OptionEntries(const std::vector<OptionSpec>& options)
 std::vector<Entry> ExampleEntries(const std::vector<ExampleSpec>& examples)
 {
     std::vector<Entry> entries;
+    entries.reserve(examples.size());
     for (const ExampleSpec& example : examples)
         entries.push_back({example.line, FromTable(example.help)});
     return entries;

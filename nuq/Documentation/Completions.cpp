@@ -108,8 +108,8 @@ std::string BashCompletion(const Commands& commands)
                          "        case $other in\n";
     for (const auto& command : commands) {
         const std::string name = command->Spec().name;
-        script += "        " + name + ") command=" + name + "; options='" + OptionWords(command->Spec().options) +
-                  "'; break ;;\n";
+        script.append("        ").append(name).append(") command=").append(name);
+        script.append("; options='").append(OptionWords(command->Spec().options)).append("'; break ;;\n");
     }
     script += "        esac\n    done\n"
               "    options=\"$options " +

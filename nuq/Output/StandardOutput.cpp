@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <utility>
 
 #ifdef _WIN32
 #include <io.h>
@@ -15,7 +14,7 @@
 namespace nuq {
 namespace {
 
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} << 10;
 constexpr int kStandardOutput = 1;
 
 #ifdef _WIN32
@@ -49,23 +48,17 @@ StandardOutput::~StandardOutput()
 
 void StandardOutput::Write(std::string_view text)
 {
-    m_buffer += text;
-    if (m_buffer.size() >= kPiece)
+    if (m_buffer.size() + text.size() >= kPiece)
         Flush();
-}
-
-void StandardOutput::WriteWhole(std::string text)
-{
-    if (text.size() < kPiece)
-        return Write(text);
-    Flush();
-    Send(text);
+    if (text.size() >= kPiece)
+        return Send(text);
+    m_buffer += text;
 }
 
 void StandardOutput::Flush()
 {
-    const std::string text = std::exchange(m_buffer, std::string());
-    Send(text);
+    Send(m_buffer);
+    m_buffer.clear();
 }
 
 void StandardOutput::Send(std::string_view text)

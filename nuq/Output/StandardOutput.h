@@ -21,10 +21,8 @@ public:
     StandardOutput(const StandardOutput&) = delete;
     StandardOutput& operator=(const StandardOutput&) = delete;
 
+    /** Collects short texts; a long one is passed on at once, behind what was collected. */
     void Write(std::string_view text);
-
-    /** Takes a finished document without copying it, when it is long. */
-    void WriteWhole(std::string text);
 
     /** Pass everything on now. */
     void Flush();

@@ -31,14 +31,14 @@ void AppendUtf8(std::string& text, char32_t codePoint)
 char32_t NextCodePoint(std::wstring_view text, std::size_t& at)
 {
     const auto unit = static_cast<char32_t>(text[at++]);
-    const bool isHigh = unit >= 0xD800 && unit <= 0xDBFF;
-    if (sizeof(wchar_t) > 2 || !isHigh || at >= text.size())
-        return unit;
-    const auto low = static_cast<char32_t>(text[at]);
-    if (low < 0xDC00 || low > 0xDFFF)
-        return unit;
-    ++at;
-    return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
+    if constexpr (sizeof(wchar_t) == 2) {
+        const char32_t low = at < text.size() ? static_cast<char32_t>(text[at]) : 0;
+        if (unit >= 0xD800 && unit <= 0xDBFF && low >= 0xDC00 && low <= 0xDFFF) {
+            ++at;
+            return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
+        }
+    }
+    return unit;
 }
 
 std::string ToUtf8(std::wstring_view text)

@@ -24,7 +24,13 @@ namespace {
 
 std::vector<std::string> ArgumentsOf(int argc, char* argv[])
 {
-    return std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc);
+    std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    // "help COMMAND" is what many fingers type for "COMMAND --help".
+    if (!arguments.empty() && arguments.front() == "help") {
+        arguments.erase(arguments.begin());
+        arguments.emplace_back("--help");
+    }
+    return arguments;
 }
 
 std::unique_ptr<componentlibrary::Translations> InstallLanguage(GlobalOptions& options)

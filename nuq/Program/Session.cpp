@@ -113,7 +113,7 @@ bool Session::Await(RequestBase& request)
 
 void Session::WriteDocument(JsonWriter& json)
 {
-    m_out.WriteWhole(json.Take());
+    m_out.Write(json.Take());
 }
 
 void Session::Note(const QString& text)

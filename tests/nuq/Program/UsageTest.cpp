@@ -59,6 +59,13 @@ TEST_F(UsageTest, ShowsTheHelpWithExamplesFirst)
     }
 }
 
+TEST_F(UsageTest, UnderstandsHelpAsAWord)
+{
+    EXPECT_EQ(Run({"help"}).out, Run({"--help"}).out);
+    EXPECT_EQ(Run({"help", "components"}).out, Run({"components", "--help"}).out);
+    EXPECT_EQ(Run({"help", "componets"}).code, 2);
+}
+
 TEST_F(UsageTest, NeedsNoServerForHelpAndVersion)
 {
     Run({"--help"});
