@@ -1,13 +1,10 @@
 #include "ResponseHandlers/CategoriesResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/ICategory.h"
 #include "ResponseHandlers/JsonReading_p.h"
 #include "ResponseHandlers/LeafMarking_p.h"
-
-#include <QJsonArray>
+#include "ResponseHandlers/RecordReading_p.h"
 
 namespace tarnnuq {
 
@@ -43,20 +40,7 @@ CategoriesResponseHandler& CategoriesResponseHandler::operator=(const Categories
 void CategoriesResponseHandler::HandleData(const QJsonValue& data)
 {
     m_result.clear();
-    if (!data.isArray()) {
-        return;
-    }
-    const QJsonArray array = data.toArray();
-    m_result.reserve(static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        auto spCategory = MakeRecord<ICategory>();
-        if (!spCategory) {
-            WarnNull(Source, L"spCategory 为空");
-            continue;
-        }
-        ReadCategory(element.toObject(), *spCategory);
-        m_result.push_back(std::move(spCategory));
-    }
+    AppendRecords(data.toArray(), {Source, L"spCategory 为空"}, m_result, ReadCategory);
     MarkLeaves(m_result);
 }
 

@@ -1,10 +1,9 @@
 #include "ResponseHandlers/CategoryMappingsResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/ICategoryMapping.h"
 #include "ResponseHandlers/JsonReading_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 
 #include <QJsonArray>
 
@@ -58,20 +57,7 @@ CategoryMappingsResponseHandler& CategoryMappingsResponseHandler::operator=(
 void CategoryMappingsResponseHandler::HandleData(const QJsonValue& data)
 {
     m_result.clear();
-    if (!data.isArray()) {
-        return;
-    }
-    const QJsonArray array = data.toArray();
-    m_result.reserve(static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        auto spCategoryMapping = MakeRecord<ICategoryMapping>();
-        if (!spCategoryMapping) {
-            WarnNull(Source, L"spCategoryMapping 为空");
-            continue;
-        }
-        ReadMapping(element.toObject(), *spCategoryMapping);
-        m_result.push_back(std::move(spCategoryMapping));
-    }
+    AppendRecords(data.toArray(), {Source, L"spCategoryMapping 为空"}, m_result, ReadMapping);
 }
 
 } // namespace tarnnuq

@@ -1,12 +1,11 @@
 #include "ResponseHandlers/CategoryPropertyResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/ICategoryProperty.h"
 #include "Records/IParameterDefinition.h"
 #include "ResponseHandlers/JsonReading_p.h"
 #include "ResponseHandlers/ParameterDefinitionReader_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 
 #include <QJsonArray>
 
@@ -31,6 +30,13 @@ void ReadDefinitions(
     }
 }
 
+void ReadProperty(const QJsonObject& object, ICategoryProperty& property)
+{
+    property.CategoryId = IdText(object.value(QLatin1String("categoryId")));
+    property.CategoryName = TextMember(object, QLatin1String("categoryName"));
+    ReadDefinitions(object.value(QLatin1String("propertyList")).toArray(), property.ParameterDefinitions);
+}
+
 } // namespace
 
 CategoryPropertyResponseHandler::CategoryPropertyResponseHandler()
@@ -48,19 +54,7 @@ CategoryPropertyResponseHandler& CategoryPropertyResponseHandler::operator=(
 
 void CategoryPropertyResponseHandler::HandleData(const QJsonValue& data)
 {
-    const QJsonObject object = data.toObject();
-    if (object.isEmpty()) {
-        m_result = nullptr;
-        return;
-    }
-    m_result = MakeRecord<ICategoryProperty>();
-    if (!m_result) {
-        WarnNull(Source, L"m_result 为空");
-        return;
-    }
-    m_result->CategoryId = IdText(object.value(QLatin1String("categoryId")));
-    m_result->CategoryName = TextMember(object, QLatin1String("categoryName"));
-    ReadDefinitions(object.value(QLatin1String("propertyList")).toArray(), m_result->ParameterDefinitions);
+    m_result = ReadRecord<ICategoryProperty>(data, Source, ReadProperty);
 }
 
 } // namespace tarnnuq

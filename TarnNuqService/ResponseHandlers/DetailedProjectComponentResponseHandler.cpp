@@ -1,12 +1,11 @@
 #include "ResponseHandlers/DetailedProjectComponentResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/IDetailedProjectComponent.h"
 #include "Records/IProjectComponent.h"
 #include "ResponseHandlers/JsonReading_p.h"
 #include "ResponseHandlers/ProjectComponentReader_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 #include "ResponseHandlers/ThumbnailUrl_p.h"
 
 #include <QJsonArray>
@@ -59,21 +58,15 @@ DetailedProjectComponentResponseHandler& DetailedProjectComponentResponseHandler
 
 void DetailedProjectComponentResponseHandler::HandleData(const QJsonValue& data)
 {
-    const QJsonObject object = data.toObject();
-    if (object.isEmpty()) {
-        m_result = nullptr;
-        return;
-    }
-    m_result = MakeRecord<IDetailedProjectComponent>();
-    if (!m_result) {
-        WarnNull(Source, L"m_result 为空");
-        return;
-    }
-    ReadCommonComponentMembers(object, *m_result);
-    m_result->CategoryId = IdText(object.value(QLatin1String("categoryId")));
-    m_result->Status = TextMember(object, QLatin1String("status"));
-    ReadFamilyTypeNames(object.value(QLatin1String("familyTypeNames")).toArray(), *m_result);
-    ReadThumbnails(object.value(QLatin1String("thumbnailSizes")).toArray(), ThumbnailUrl(m_staticEndPoint), *m_result);
+    m_result = ReadRecord<IDetailedProjectComponent>(
+        data, Source, [this](const QJsonObject& object, IDetailedProjectComponent& component) {
+            ReadCommonComponentMembers(object, component);
+            component.CategoryId = IdText(object.value(QLatin1String("categoryId")));
+            component.Status = TextMember(object, QLatin1String("status"));
+            ReadFamilyTypeNames(object.value(QLatin1String("familyTypeNames")).toArray(), component);
+            ReadThumbnails(
+                object.value(QLatin1String("thumbnailSizes")).toArray(), ThumbnailUrl(m_staticEndPoint), component);
+        });
 }
 
 } // namespace tarnnuq

@@ -1,10 +1,9 @@
 #include "ResponseHandlers/LegendsResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/ILegend.h"
 #include "ResponseHandlers/LegendReader_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 #include "ResponseHandlers/ThumbnailUrl_p.h"
 
 #include <QJsonArray>
@@ -34,18 +33,8 @@ void LegendsResponseHandler::HandleData(const QJsonValue& data)
 {
     m_result.clear();
     const ThumbnailUrl thumbnailUrl(m_staticEndPoint);
-    const QJsonArray array = data.toArray();
-    m_result.reserve(static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        const QJsonObject object = element.toObject();
-        auto spLegend = MakeRecord<ILegend>();
-        if (!spLegend) {
-            WarnNull(Source, L"spLegend 为空");
-            continue;
-        }
-        ReadLegend(object, thumbnailUrl, *spLegend);
-        m_result.push_back(std::move(spLegend));
-    }
+    AppendRecords(data.toArray(), {Source, L"spLegend 为空"}, m_result,
+        [&thumbnailUrl](const QJsonObject& object, ILegend& legend) { ReadLegend(object, thumbnailUrl, legend); });
 }
 
 } // namespace tarnnuq

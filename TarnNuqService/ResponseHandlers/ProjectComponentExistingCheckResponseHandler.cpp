@@ -1,10 +1,9 @@
 #include "ResponseHandlers/ProjectComponentExistingCheckResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/ProjectComponentExistingCheck.h"
 #include "ResponseHandlers/JsonReading_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 
 namespace tarnnuq {
 
@@ -30,18 +29,11 @@ ProjectComponentExistingCheckResponseHandler& ProjectComponentExistingCheckRespo
 
 void ProjectComponentExistingCheckResponseHandler::HandleData(const QJsonValue& data)
 {
-    const QJsonObject object = data.toObject();
-    if (object.isEmpty()) {
-        m_result = nullptr;
-        return;
-    }
-    m_result = MakeRecord<ProjectComponentExistingCheck>();
-    if (!m_result) {
-        WarnNull(Source, L"m_result 为空");
-        return;
-    }
-    m_result->Exist = BoolMember(object, QLatin1String("exist"));
-    m_result->Version = IntMember(object, QLatin1String("version"));
+    m_result = ReadRecord<ProjectComponentExistingCheck>(
+        data, Source, [](const QJsonObject& object, ProjectComponentExistingCheck& check) {
+            check.Exist = BoolMember(object, QLatin1String("exist"));
+            check.Version = IntMember(object, QLatin1String("version"));
+        });
 }
 
 } // namespace tarnnuq

@@ -1,12 +1,9 @@
 #include "ResponseHandlers/ProjectComponentReader_p.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "Records/IProjectComponent.h"
 #include "ResponseHandlers/JsonReading_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 #include "ResponseHandlers/ThumbnailUrl_p.h"
-
-#include <QJsonArray>
 
 namespace tarnnuq {
 
@@ -28,20 +25,13 @@ void ReadCatalogueMembers(const QJsonObject& object, const ThumbnailUrl& thumbna
 void AppendComponents(const QJsonArray& array, const ThumbnailUrl& thumbnailUrl, const WarningSource& source,
     RecordList<IProjectComponent>& components)
 {
-    components.reserve(components.size() + static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        const auto spProjectComponent = MakeRecord<IProjectComponent>();
-        if (!spProjectComponent) {
-            WarnNull(source, L"spProjectComponent 为空");
-            continue;
-        }
-        const QJsonObject object = element.toObject();
-        ReadCommonComponentMembers(object, *spProjectComponent);
-        ReadCatalogueMembers(object, thumbnailUrl, *spProjectComponent);
-        spProjectComponent->CategoryId = IdText(object.value(QLatin1String("categoryId")));
-        spProjectComponent->Status = TextMember(object, QLatin1String("status"));
-        components.push_back(spProjectComponent);
-    }
+    AppendRecords(array, {source, L"spProjectComponent 为空"}, components,
+        [&thumbnailUrl](const QJsonObject& object, IProjectComponent& component) {
+            ReadCommonComponentMembers(object, component);
+            ReadCatalogueMembers(object, thumbnailUrl, component);
+            component.CategoryId = IdText(object.value(QLatin1String("categoryId")));
+            component.Status = TextMember(object, QLatin1String("status"));
+        });
 }
 
 } // namespace tarnnuq

@@ -1,11 +1,10 @@
 #include "ResponseHandlers/ProjectComponentResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/IProjectComponent.h"
 #include "ResponseHandlers/JsonReading_p.h"
 #include "ResponseHandlers/ProjectComponentReader_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 #include "ResponseHandlers/ThumbnailUrl_p.h"
 
 namespace tarnnuq {
@@ -32,19 +31,12 @@ ProjectComponentResponseHandler& ProjectComponentResponseHandler::operator=(
 
 void ProjectComponentResponseHandler::HandleData(const QJsonValue& data)
 {
-    const QJsonObject object = data.toObject();
-    if (object.isEmpty()) {
-        m_result = nullptr;
-        return;
-    }
-    m_result = MakeRecord<IProjectComponent>();
-    if (!m_result) {
-        WarnNull(Source, L"m_result 为空");
-        return;
-    }
-    ReadCommonComponentMembers(object, *m_result);
-    ReadCatalogueMembers(object, ThumbnailUrl(m_staticEndPoint), *m_result);
-    m_result->CategoryId = TextMember(object, QLatin1String("categoryId"));
+    m_result =
+        ReadRecord<IProjectComponent>(data, Source, [this](const QJsonObject& object, IProjectComponent& component) {
+            ReadCommonComponentMembers(object, component);
+            ReadCatalogueMembers(object, ThumbnailUrl(m_staticEndPoint), component);
+            component.CategoryId = TextMember(object, QLatin1String("categoryId"));
+        });
 }
 
 } // namespace tarnnuq

@@ -1,13 +1,10 @@
 #include "ResponseHandlers/SharedDefinitions_p.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "Records/IParameter.h"
 #include "Records/IParameterDefinition.h"
 #include "ResponseHandlers/ParameterDefinitionReader_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <algorithm>
 #include <numeric>
 
@@ -15,16 +12,7 @@ namespace tarnnuq {
 
 SharedDefinitions::SharedDefinitions(const QJsonArray& array, const WarningSource& source) : m_source(source)
 {
-    m_definitions.reserve(static_cast<std::size_t>(array.size()));
-    for (const QJsonValue& element : array) {
-        auto spParameterDefinition = MakeRecord<IParameterDefinition>();
-        if (!spParameterDefinition) {
-            WarnNull(m_source, L"spParameterDefinition 为空");
-            continue;
-        }
-        ReadParameterDefinition(element.toObject(), *spParameterDefinition);
-        m_definitions.push_back(std::move(spParameterDefinition));
-    }
+    AppendRecords(array, {m_source, L"spParameterDefinition 为空"}, m_definitions, ReadParameterDefinition);
     Prepare();
 }
 

@@ -1,7 +1,5 @@
 #include "ResponseHandlers/SpecificationResponseHandler.h"
 
-#include "Common/DebugWarning.h"
-#include "Common/MakeRecord.h"
 #include "EnvSvcs/EnvService.h"
 #include "Records/IParameter.h"
 #include "Records/IParameterDefinition.h"
@@ -9,6 +7,7 @@
 #include "ResponseHandlers/JsonReading_p.h"
 #include "ResponseHandlers/ParameterDefinitionReader_p.h"
 #include "ResponseHandlers/ParameterValues_p.h"
+#include "ResponseHandlers/RecordReading_p.h"
 
 #include <QJsonArray>
 
@@ -38,6 +37,17 @@ void ReadParameters(const QJsonArray& array, ISpecification& specification)
     }
 }
 
+void ReadSpecification(const QJsonObject& object, ISpecification& specification)
+{
+    ReadParameters(object.value(QLatin1String("parameters")).toArray(), specification);
+    const QJsonObject familyType = object.value(QLatin1String("familyType")).toObject();
+    specification.Name = TextMember(familyType, QLatin1String("name"));
+    if (!specification.Parameters.empty()) {
+        ApplyParameterValues(
+            familyType.value(QLatin1String("parameterValues")).toArray(), {}, specification.Parameters);
+    }
+}
+
 } // namespace
 
 SpecificationResponseHandler::SpecificationResponseHandler()
@@ -54,22 +64,7 @@ SpecificationResponseHandler& SpecificationResponseHandler::operator=(
 
 void SpecificationResponseHandler::HandleData(const QJsonValue& data)
 {
-    const QJsonObject object = data.toObject();
-    if (object.isEmpty()) {
-        m_result = nullptr;
-        return;
-    }
-    m_result = MakeRecord<ISpecification>();
-    if (!m_result) {
-        WarnNull(Source, L"m_result 为空");
-        return;
-    }
-    ReadParameters(object.value(QLatin1String("parameters")).toArray(), *m_result);
-    const QJsonObject familyType = object.value(QLatin1String("familyType")).toObject();
-    m_result->Name = TextMember(familyType, QLatin1String("name"));
-    if (!m_result->Parameters.empty()) {
-        ApplyParameterValues(familyType.value(QLatin1String("parameterValues")).toArray(), {}, m_result->Parameters);
-    }
+    m_result = ReadRecord<ISpecification>(data, Source, ReadSpecification);
 }
 
 } // namespace tarnnuq
