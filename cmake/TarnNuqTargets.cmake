@@ -21,6 +21,9 @@ function(tarnnuq_add_shared_library target)
         VERSION ${PROJECT_VERSION}
         SOVERSION 0
         CXX_EXTENSIONS OFF
+        # The build tree has the layout of an installation: no path is patched, and none padded with empty entries,
+        # which a loader takes for the current folder.
+        BUILD_WITH_INSTALL_RPATH ON
         INSTALL_RPATH "$ORIGIN"
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
@@ -66,8 +69,8 @@ function(tarnnuq_add_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES CXX_EXTENSIONS OFF
-        BUILD_RPATH_USE_ORIGIN ON
-        INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+        BUILD_WITH_INSTALL_RPATH ON
+        INSTALL_RPATH "$ORIGIN/../lib;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
     target_link_libraries(${name} PRIVATE ${arg_LINK} tarnnuq_build_settings)
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
 endfunction()
