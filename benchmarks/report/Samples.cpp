@@ -50,9 +50,8 @@ double Samples::Median() const
     return sorted.size() % 2 ? sorted[middle] : (sorted[middle - 1] + sorted[middle]) / 2;
 }
 
-Figures ReadTimes(const std::string& path)
+void ReadTimes(const std::string& path, Figures& figures)
 {
-    Figures figures;
     std::ifstream file = Open(path);
     const nlohmann::json document = nlohmann::json::parse(file);
     for (const auto& entry : document.at("benchmarks")) {
@@ -62,12 +61,10 @@ Figures ReadTimes(const std::string& path)
             figures[name[0]][name[1]][std::stoi(name[2])].Add(Nanoseconds(entry, wall));
         }
     }
-    return figures;
 }
 
-Figures ReadCounts(const std::string& path)
+void ReadCounts(const std::string& path, Figures& figures)
 {
-    Figures figures;
     std::ifstream file = Open(path);
     std::string subject;
     std::string by;
@@ -76,7 +73,6 @@ Figures ReadCounts(const std::string& path)
     while (file >> subject >> by >> size >> count) {
         figures[subject][by][size].Add(count);
     }
-    return figures;
 }
 
 } // namespace bench

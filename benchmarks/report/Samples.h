@@ -22,11 +22,11 @@ private:
 using Figures = std::map<std::string, std::map<std::string, std::map<int, Samples>>>;
 
 /// Reads Google Benchmark's JSON; names are SUBJECT/BY/SIZE, with an optional /real_time behind.
-/// @return CPU time in nanoseconds, or wall time where a benchmark measures that
+/// @param figures receives CPU time in nanoseconds, or wall time where a benchmark measures that
 /// @throws std::exception when the file cannot be read
-Figures ReadTimes(const std::string& path);
+void ReadTimes(const std::string& path, Figures& figures);
 
 /// Reads instruction counts: lines of SUBJECT BY SIZE COUNT.
-Figures ReadCounts(const std::string& path);
+void ReadCounts(const std::string& path, Figures& figures);
 
 } // namespace bench

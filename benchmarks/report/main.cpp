@@ -1,5 +1,5 @@
 // Prints Markdown tables of the figures of a run, each subject relative to its first column, with growth exponents.
-// Usage: benchmark-report TIMES.json [INSTRUCTIONS.tsv]
+// Usage: benchmark-report TIMES.json... [INSTRUCTIONS.tsv]; the figures of all files are put together
 #include "Samples.h"
 
 #include <cmath>
@@ -115,17 +115,17 @@ void Print(const Figures& figures, const char* unit, double perUnit, int digits)
 
 int main(int argc, char** argv)
 {
-    if (argc < 2) {
-        std::fprintf(stderr, "usage: benchmark-report TIMES.json [INSTRUCTIONS.tsv]\n");
-        return 2;
-    }
     try {
-        std::printf("## Time\n");
-        Print(bench::ReadTimes(argv[1]), "microseconds", 1e-3, 1);
-        if (argc > 2) {
-            std::printf("\n## Instructions\n");
-            Print(bench::ReadCounts(argv[2]), "thousands of instructions", 1e-3, 0);
+        Figures times;
+        Figures counts;
+        for (const std::string& path : std::vector<std::string>(argv + 1, argv + argc)) {
+            const bool isJson = path.size() > 5 && path.compare(path.size() - 5, 5, ".json") == 0;
+            isJson ? bench::ReadTimes(path, times) : bench::ReadCounts(path, counts);
         }
+        std::printf("## Time\n");
+        Print(times, "microseconds", 1e-3, 1);
+        std::printf("\n## Instructions\n");
+        Print(counts, "thousands of instructions", 1e-3, 0);
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "benchmark-report: %s\n", exception.what());
         return 1;
