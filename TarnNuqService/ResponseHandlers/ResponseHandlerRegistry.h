@@ -47,9 +47,9 @@ IResponseHandler<T>* ResponseHandlerRegistry::Get()
     if (!handler) {
         return nullptr;
     }
-    const auto stored = handlers.emplace(key, handler.get()).first;
-    handler.release();
-    return stored->second;
+    IResponseHandler<T>*& stored = handlers[key];
+    stored = handler.release();
+    return stored;
 }
 
 #define TARNNUQSERVICE_DECLARE_INSTANCE(T)                                                                             \
