@@ -1,0 +1,58 @@
+#pragma once
+
+#include "FamilyFiles/Formulas/Expression.h"
+#include "FamilyFiles/Formulas/FormulaVariable.h"
+#include "FamilyFiles/Formulas/Scope.h"
+#include "FamilyFiles/Manifest/Value.h"
+#include "FamilyFiles/Reason.h"
+
+#include <optional>
+#include <vector>
+
+namespace familyfiles {
+
+/// The parameters of a family as a system of formulas: from the values of some, the driving ones, follow those of the
+/// others, the driven ones.
+///
+/// Formulas are checked and put in order once and evaluated often; the cost of both grows with the number of variables
+/// and the length of the formulas. Never throws on bad input. Not for use by several threads at once.
+class FormulaSet
+{
+public:
+    /// @return nothing with a reason that names the variable: formula.cycle and those of Expression::Compile, or
+    ///         formula.duplicate-name
+    static std::optional<FormulaSet> Make(const std::vector<FormulaVariable>& variables, Reason& reason);
+
+    /// The driven variables, each behind all that it needs; otherwise in the given order.
+    const std::vector<std::size_t>& Order() const { return m_order; }
+
+    /// The names with their kinds and quantities; slot n is variable n.
+    const Scope& Names() const { return m_names; }
+
+    /// Works out the driven variables.
+    ///
+    /// @param values a value for each variable, of its storage type and in its unit; those of driven variables are
+    ///        replaced. Unchanged on failure.
+    /// @return false with a reason that names the variable: formula.division-by-zero, .overflow, .not-a-number,
+    ///         .out-of-range (no 32-bit integer), value.not-finite (a driving value)
+    bool Evaluate(std::vector<Value>& values, Reason& reason) const;
+
+    /// The values as expressions see them: numbers in base units. For recipes, which go on from there.
+    /// REQUIRES: a value for each variable, of its storage type
+    Scope ScopeOf(const std::vector<Value>& values) const;
+
+private:
+    struct Driven;
+
+    FormulaSet() = default;
+    void Put(Scope& scope, std::size_t variable, const Value& value) const;
+
+    Scope m_names;
+    std::vector<FormulaVariable> m_variables;
+    std::vector<double> m_factors;
+    std::vector<std::size_t> m_order;
+    /// By position in m_order.
+    std::vector<Expression> m_formulas;
+};
+
+} // namespace familyfiles
