@@ -1,23 +1,22 @@
 #pragma once
 
 #include "FamilyFiles/BuildResult.h"
+#include "FamilyFiles/Drawing/ConnectorMark.h"
+#include "FamilyFiles/Drawing/Drawing.h"
+#include "FamilyFiles/Drawing/TriangleMesh.h"
 #include "FamilyFiles/DrawingView.h"
 #include "FamilyFiles/Reason.h"
 #include "FamilyFiles/Solid.h"
 #include "FamilyFiles/StepSchema.h"
 
-#include <QtGlobal>
+#include <optional>
 #include <string>
-
-QT_BEGIN_NAMESPACE
-class QImage;
-QT_END_NAMESPACE
+#include <vector>
 
 namespace familyfiles {
 
 class BuildProgress;
-class ShapePlan;
-struct DrawingMarks;
+struct ShapePlan;
 
 /// What makes bodies and pictures of them: a modelling library behind an interface that does not show it.
 ///
@@ -45,13 +44,15 @@ public:
     /// @param progress may be null
     virtual BuildResult Build(const ShapePlan& plan, BuildProgress* progress) const = 0;
 
-    /// A hidden-line drawing as SVG.
-    /// @return empty with a reason on failure
-    virtual std::string Draw(const Solid& solid, DrawingView view, const DrawingMarks& marks, Reason& reason) const = 0;
+    /// The hidden-line drawing of a view, with the plan's centre lines and the marks of connectors. DrawingSvg and
+    /// DrawingPicture make documents and pictures of it.
+    /// @return nothing with a reason on failure
+    virtual std::optional<Drawing> Draw(
+        const Solid& solid, DrawingView view, const std::vector<ConnectorMark>& connectors, Reason& reason) const = 0;
 
-    /// A shaded picture with transparent background.
-    /// @return null with a reason on failure
-    virtual QImage Render(const Solid& solid, const DrawingMarks& marks, int pixels, Reason& reason) const = 0;
+    /// The surface as triangles with materials, for ShadedPicture.
+    /// @return nothing with a reason on failure
+    virtual std::optional<TriangleMesh> Mesh(const Solid& solid, Reason& reason) const = 0;
 
     /// @param path UTF-8; written as a whole or not at all
     virtual bool WriteStep(const Solid& solid, const std::string& path, StepSchema schema, Reason& reason) const = 0;

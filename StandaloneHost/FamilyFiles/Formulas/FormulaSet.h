@@ -11,6 +11,8 @@
 
 namespace familyfiles {
 
+struct Unit;
+
 /// The parameters of a family as a system of formulas: from the values of some, the driving ones, follow those of the
 /// others, the driven ones.
 ///
@@ -20,10 +22,10 @@ class FormulaSet
 {
 public:
     /// @return nothing with a reason that names the variable: formula.cycle and those of Expression::Compile, or
-    ///         formula.duplicate-name
-    static std::optional<FormulaSet> Make(const std::vector<FormulaVariable>& variables, Reason& reason);
+    ///         formula.duplicate-name, or formula.unknown-unit for that of a variable
+    static std::optional<FormulaSet> Make(std::vector<FormulaVariable> variables, Reason& reason);
 
-    /// The driven variables, each behind all that it needs; otherwise in the given order.
+    /// The driven variables, each behind all that it needs.
     const std::vector<std::size_t>& Order() const { return m_order; }
 
     /// The names with their kinds and quantities; slot n is variable n.
@@ -42,17 +44,21 @@ public:
     Scope ScopeOf(const std::vector<Value>& values) const;
 
 private:
-    struct Driven;
+    class Maker;
 
     FormulaSet() = default;
     void Put(Scope& scope, std::size_t variable, const Value& value) const;
+    std::optional<Value> ValueOf(std::size_t variable, const Expression& formula, Reason& reason) const;
 
     Scope m_names;
     std::vector<FormulaVariable> m_variables;
-    std::vector<double> m_factors;
+    std::vector<const Unit*> m_units;
+    std::vector<std::size_t> m_given;
     std::vector<std::size_t> m_order;
     /// By position in m_order.
     std::vector<Expression> m_formulas;
+    /// Values while they are worked out.
+    mutable Scope m_working;
 };
 
 } // namespace familyfiles

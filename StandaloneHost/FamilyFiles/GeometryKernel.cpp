@@ -1,0 +1,43 @@
+#include "FamilyFiles/GeometryKernel.h"
+
+#include "FamilyFiles/BuildProgress.h"
+#include "FamilyFiles/KernelModule.h"
+
+#include <atomic>
+
+namespace familyfiles {
+
+namespace {
+
+std::atomic<const GeometryKernel*>& Given()
+{
+    static std::atomic<const GeometryKernel*> given{nullptr};
+    return given;
+}
+
+} // namespace
+
+Solid::~Solid() = default;
+BuildProgress::~BuildProgress() = default;
+GeometryKernel::~GeometryKernel() = default;
+
+void GeometryKernel::Use(const GeometryKernel* kernel)
+{
+    Given() = kernel;
+}
+
+const GeometryKernel* GeometryKernel::Get(Reason& reason)
+{
+    const GeometryKernel* const given = Given();
+    if (given != nullptr) {
+        return given;
+    }
+    // Loaded once; a module that is missing now will not appear while the program runs.
+    static const KernelModule module = LoadKernelModule(KernelModuleFolders());
+    if (module.kernel == nullptr) {
+        reason = module.reason;
+    }
+    return module.kernel;
+}
+
+} // namespace familyfiles
