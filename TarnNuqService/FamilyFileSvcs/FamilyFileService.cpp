@@ -47,6 +47,30 @@ std::optional<QString> CopyBeside(const QString& path)
     return copy;
 }
 
+bool RegeneratesWith(zept::IFamilyFile& familyFile, const ISpecification& specification)
+{
+    if (!familyFile.GetCurrentGeometry()) {
+        return false;
+    }
+    const std::optional<WorkingParameters> working = PrepareParameters(familyFile, specification, GeometrySource);
+    if (!working) {
+        return false;
+    }
+    return !working->anySet || familyFile.RegenerateGeometry(working->parameters);
+}
+
+bool ComputeDriven(zept::IFamilyFile& familyFile, ISpecification& specification, bool& changed)
+{
+    const std::optional<WorkingParameters> working = PrepareParameters(familyFile, specification, DrivenSource);
+    if (!working) {
+        return false;
+    }
+    FamilyParameters outputs;
+    const bool computed = familyFile.ComputeDrivenParameters(working->parameters, outputs);
+    WriteDrivenValues(outputs, working->definitions, specification, changed);
+    return computed;
+}
+
 } // namespace
 
 FamilyFileService::FamilyFileService(const std::wstring& path) : m_opFamilyFile(zept::IFamilyFile::Create(path)) {}
@@ -67,7 +91,7 @@ std::shared_ptr<FamilyFileService> FamilyFileService::Create(const std::wstring&
 bool FamilyFileService::TryUpdateGeometry(std::shared_ptr<ISpecification> spec)
 {
     try {
-        return spec && m_opFamilyFile && RegeneratesWith(*spec);
+        return spec && m_opFamilyFile && RegeneratesWith(*m_opFamilyFile, *spec);
     } catch (...) {
         return false;
     }
@@ -81,34 +105,10 @@ bool FamilyFileService::UpdateDrivenParameters(std::shared_ptr<ISpecification> s
         return true;
     }
     try {
-        return m_opFamilyFile && ComputeDriven(*spec, changed);
+        return m_opFamilyFile && ComputeDriven(*m_opFamilyFile, *spec, changed);
     } catch (...) {
         return false;
     }
-}
-
-bool FamilyFileService::RegeneratesWith(const ISpecification& specification)
-{
-    if (!m_opFamilyFile->GetCurrentGeometry()) {
-        return false;
-    }
-    const std::optional<WorkingParameters> working = PrepareParameters(*m_opFamilyFile, specification, GeometrySource);
-    if (!working) {
-        return false;
-    }
-    return !working->anySet || m_opFamilyFile->RegenerateGeometry(working->parameters);
-}
-
-bool FamilyFileService::ComputeDriven(ISpecification& specification, bool& changed)
-{
-    const std::optional<WorkingParameters> working = PrepareParameters(*m_opFamilyFile, specification, DrivenSource);
-    if (!working) {
-        return false;
-    }
-    FamilyParameters outputs;
-    const bool computed = m_opFamilyFile->ComputeDrivenParameters(working->parameters, outputs);
-    WriteDrivenValues(outputs, working->definitions, specification, changed);
-    return computed;
 }
 
 } // namespace tarnnuq

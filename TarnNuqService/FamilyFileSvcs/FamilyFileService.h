@@ -50,9 +50,6 @@ public:
 private:
     explicit FamilyFileService(const std::wstring& path);
 
-    bool RegeneratesWith(const ISpecification& specification);
-    bool ComputeDriven(ISpecification& specification, bool& changed);
-
     zept::OwnerPtr<zept::IFamilyFile> m_opFamilyFile;
 };
 
