@@ -24,6 +24,7 @@ public:
     static constexpr std::size_t MaximalEntries = 256;
     static constexpr std::size_t MaximalManifestSize = 8U << 20U;
     static constexpr std::size_t MaximalEntrySize = 32U << 20U;
+    static constexpr std::size_t MaximalTotalSize = 128U << 20U;
 
     /// Only the manifest; quick, as checking a family needs no more.
     /// @param path UTF-8

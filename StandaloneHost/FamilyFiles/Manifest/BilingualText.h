@@ -9,6 +9,8 @@ struct BilingualText
 {
     std::string chinese;
     std::string english;
+    /// Members that this version does not know, as the text of a JSON object; empty when there are none.
+    std::string extra = {};
 };
 
 } // namespace familyfiles

@@ -19,7 +19,7 @@ std::optional<FormulaSet> MakeFormulas(const FamilyManifest& manifest, Reason& r
 std::vector<Value> GivenValues(const FamilyManifest& manifest, std::size_t type);
 
 /// Whether a value may be given to a parameter: of its storage type, finite, inside its bounds, one of those allowed.
-/// Numbers may miss an allowed value or a bound by a billionth of it, as texts of six decimals do.
+/// Numbers may miss an allowed value or a bound by what a text of six decimals loses.
 /// @return false with a reason: value.wrong-type, .not-finite, .out-of-range, .not-allowed
 bool IsPossible(const ParameterDefinition& parameter, const Value& value, Reason& reason);
 
