@@ -1,0 +1,94 @@
+#include "FamilyFiles/Drawing/CoverageMask.h"
+
+#include "FamilyFiles/Recipe/LoopSamples.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace familyfiles {
+
+namespace {
+
+/// Cells along the longer side.
+constexpr double kCells = 640;
+
+/// How many cells beside a line its surroundings are looked at.
+constexpr double kBeside = 2;
+
+/// Empty cells around the component.
+constexpr int kMargin = 4;
+
+double Side(const Point2& a, const Point2& b, double u, double v)
+{
+    return (b.u - a.u) * (v - a.v) - (b.v - a.v) * (u - a.u);
+}
+
+} // namespace
+
+CoverageMask::CoverageMask(const TriangleMesh& mesh, const ViewPlane& plane)
+{
+    std::vector<Point2> points;
+    points.reserve(mesh.vertices.size());
+    for (const MeshVertex& vertex : mesh.vertices) {
+        points.push_back(plane.Project(vertex.position));
+    }
+    const PlaneBox box = BoxOf(points);
+    m_low = box.low;
+    m_high = box.high;
+    m_cell = std::max({m_high.u - m_low.u, m_high.v - m_low.v, 1e-6}) / kCells;
+    m_columns = static_cast<int>((m_high.u - m_low.u) / m_cell) + 2 * kMargin;
+    m_rows = static_cast<int>((m_high.v - m_low.v) / m_cell) + 2 * kMargin;
+    m_cells.assign(static_cast<std::size_t>(m_columns) * static_cast<std::size_t>(m_rows), 0);
+    for (Point2& point : points) {
+        point = {(point.u - m_low.u) / m_cell + kMargin, (point.v - m_low.v) / m_cell + kMargin};
+    }
+    for (const MeshTriangle& triangle : mesh.triangles) {
+        Fill(points[triangle.vertices[0]], points[triangle.vertices[1]], points[triangle.vertices[2]]);
+    }
+}
+
+/// Takes every cell whose centre lies in the triangle or on its border, whichever way it runs.
+void CoverageMask::Fill(const Point2& a, const Point2& b, const Point2& c)
+{
+    const double area = Side(a, b, c.u, c.v);
+    if (area <= 0) {
+        return; // seen from behind: the front covers the same place
+    }
+    const int rowBegin = std::max(0, static_cast<int>(std::ceil(std::min({a.v, b.v, c.v}) - 0.5)));
+    const int rowEnd = std::min(m_rows - 1, static_cast<int>(std::floor(std::max({a.v, b.v, c.v}) - 0.5)));
+    const int columnBegin = std::max(0, static_cast<int>(std::ceil(std::min({a.u, b.u, c.u}) - 0.5)));
+    const int columnEnd = std::min(m_columns - 1, static_cast<int>(std::floor(std::max({a.u, b.u, c.u}) - 0.5)));
+    for (int row = rowBegin; row <= rowEnd; ++row) {
+        const double v = row + 0.5;
+        std::uint8_t* cells = m_cells.data() + static_cast<std::ptrdiff_t>(row) * m_columns;
+        for (int column = columnBegin; column <= columnEnd; ++column) {
+            const double u = column + 0.5;
+            if (Side(a, b, u, v) >= 0 && Side(b, c, u, v) >= 0 && Side(c, a, u, v) >= 0) {
+                cells[column] = 1;
+            }
+        }
+    }
+}
+
+bool CoverageMask::IsCovered(const Point2& point) const
+{
+    const int column = static_cast<int>(std::floor(point.u));
+    const int row = static_cast<int>(std::floor(point.v));
+    const bool isInside = column >= 0 && column < m_columns && row >= 0 && row < m_rows;
+    return isInside && m_cells[static_cast<std::size_t>(row * m_columns + column)] != 0;
+}
+
+bool CoverageMask::IsAtBackground(const Point2& from, const Point2& to) const
+{
+    const double length = std::hypot(to.u - from.u, to.v - from.v);
+    if (length == 0) {
+        return false;
+    }
+    const Point2 middle{
+        ((from.u + to.u) / 2 - m_low.u) / m_cell + kMargin, ((from.v + to.v) / 2 - m_low.v) / m_cell + kMargin};
+    const Point2 beside{-(to.v - from.v) / length * kBeside, (to.u - from.u) / length * kBeside};
+    return !IsCovered({middle.u + beside.u, middle.v + beside.v}) ||
+           !IsCovered({middle.u - beside.u, middle.v - beside.v});
+}
+
+} // namespace familyfiles

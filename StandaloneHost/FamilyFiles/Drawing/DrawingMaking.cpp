@@ -1,0 +1,108 @@
+#include "FamilyFiles/Drawing/DrawingMaking.h"
+
+#include "FamilyFiles/Drawing/CentreLinePaths.h"
+#include "FamilyFiles/Drawing/ConnectorPaths.h"
+#include "FamilyFiles/Drawing/CoverageMask.h"
+#include "FamilyFiles/Drawing/LineChaining.h"
+#include "FamilyFiles/Drawing/ViewPlane.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace familyfiles {
+
+namespace {
+
+/// Parts of the drawing's diagonal: below the first, two ends are one; below the second, a point is on a line.
+constexpr double kGrid = 2e-5;
+constexpr double kTolerance = 1e-4;
+
+/// A piece longer than this part of the diagonal is looked at in parts: it may be an outline for a part of its length.
+constexpr double kLookLength = 0.02;
+
+struct SeenLines
+{
+    std::vector<LineSegment> outline;
+    std::vector<LineSegment> inside;
+};
+
+Point2 PointAt(const LineSegment& piece, double part)
+{
+    return {piece.from.u + (piece.to.u - piece.from.u) * part, piece.from.v + (piece.to.v - piece.from.v) * part};
+}
+
+/// Adds @p piece to outline or inside, cut where it changes from one to the other.
+void Sort(const LineSegment& piece, const CoverageMask& mask, double lookLength, SeenLines& seen)
+{
+    const double length = std::hypot(piece.to.u - piece.from.u, piece.to.v - piece.from.v);
+    const auto count = std::max(1, static_cast<int>(std::ceil(length / lookLength)));
+    const auto isOutline = [&](int i) {
+        return mask.IsAtBackground(PointAt(piece, static_cast<double>(i) / count), PointAt(piece, (i + 1.0) / count));
+    };
+    int begin = 0;
+    bool current = isOutline(0);
+    for (int i = 1; i <= count; ++i) {
+        const bool next = i < count && isOutline(i);
+        if (i == count || next != current) {
+            (current ? seen.outline : seen.inside)
+                .push_back({PointAt(piece, static_cast<double>(begin) / count),
+                    PointAt(piece, static_cast<double>(i) / count)});
+            begin = i;
+            current = next;
+        }
+    }
+}
+
+class DrawingMaker
+{
+public:
+    DrawingMaker(const TriangleMesh& mesh, DrawingView view) : m_plane(PlaneOf(view)), m_mask(mesh, m_plane)
+    {
+        m_drawing.low = m_mask.Low();
+        m_drawing.high = m_mask.High();
+        m_diagonal = std::hypot(m_drawing.high.u - m_drawing.low.u, m_drawing.high.v - m_drawing.low.v);
+    }
+
+    Drawing Make(const ProjectedLines& lines, const std::vector<CentreLine>& centreLines,
+        const std::vector<ConnectorMark>& connectors)
+    {
+        SeenLines seen;
+        for (const LineSegment& piece : lines.visible) {
+            Sort(piece, m_mask, m_diagonal * kLookLength, seen);
+        }
+        Add(LineStyle::Hidden, Chained(WithoutThose(lines.hidden, lines.visible, m_diagonal * kGrid)));
+        Add(LineStyle::Centre, CentreLinePaths(centreLines, m_plane, m_diagonal));
+        Add(LineStyle::Visible, Chained(seen.inside));
+        Add(LineStyle::Outline, Chained(seen.outline));
+        Add(LineStyle::Connector, ConnectorPaths(connectors, m_plane, m_diagonal));
+        return std::move(m_drawing);
+    }
+
+private:
+    std::vector<std::vector<Point2>> Chained(const std::vector<LineSegment>& pieces) const
+    {
+        return ChainLines(pieces, m_diagonal * kGrid, m_diagonal * kTolerance);
+    }
+
+    void Add(LineStyle style, const std::vector<std::vector<Point2>>& lines)
+    {
+        for (const std::vector<Point2>& line : lines) {
+            m_drawing.paths.push_back({style, line});
+        }
+    }
+
+    ViewPlane m_plane;
+    CoverageMask m_mask;
+    double m_diagonal = 0;
+    Drawing m_drawing;
+};
+
+} // namespace
+
+Drawing MakeDrawing(const ProjectedLines& lines, const TriangleMesh& mesh, DrawingView view,
+    const std::vector<CentreLine>& centreLines, const std::vector<ConnectorMark>& connectors)
+{
+    return DrawingMaker(mesh, view).Make(lines, centreLines, connectors);
+}
+
+} // namespace familyfiles

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "FamilyFiles/Drawing/PixelBuffers.h"
+#include "FamilyFiles/Recipe/Materials.h"
+
+#include <array>
+#include <vector>
+
+namespace familyfiles {
+
+/// Colours of samples: light on the materials, darker where surfaces meet or come near each other.
+class PixelShading
+{
+public:
+    /// Both must outlive the object.
+    /// @param materials by the samples' material
+    /// @param lineWidth of edges, in samples
+    PixelShading(const PixelBuffers& buffers, const std::vector<MaterialLook>& materials, int lineWidth);
+
+    /// Red, green and blue of a covered sample, from 0 to 1.
+    std::array<double, 3> ColourAt(int column, int row) const;
+
+private:
+    std::array<double, 3> Lit(const PixelSample& sample) const;
+    double EdgeAt(int column, int row) const;
+    double NearnessAt(int column, int row) const;
+    const PixelSample* Neighbour(int column, int row) const;
+
+    const PixelBuffers& m_buffers;
+    const std::vector<MaterialLook>& m_materials;
+    int m_lineWidth;
+};
+
+} // namespace familyfiles
