@@ -1,15 +1,41 @@
 #include "Categories/CategoryTree.h"
 
 #include <algorithm>
-#include <unordered_map>
-#include <unordered_set>
+#include <utility>
 
 namespace componentlibrary {
+namespace {
+
+/// Where each id stands first. Sorted, not hashed: whoever sends the list chooses the ids and could make them collide.
+class PlacesOfIds
+{
+public:
+    explicit PlacesOfIds(const CategoryTree::Categories& categories)
+    {
+        m_places.reserve(categories.size());
+        for (std::size_t at = 0; at < categories.size(); ++at) {
+            if (categories[at] != nullptr)
+                m_places.emplace_back(categories[at]->Id, at);
+        }
+        std::sort(m_places.begin(), m_places.end());
+    }
+
+    /// The first place of an id, or `absent`.
+    std::size_t Find(std::int32_t id, std::size_t absent) const
+    {
+        const auto place = std::lower_bound(m_places.begin(), m_places.end(), std::make_pair(id, std::size_t{0}));
+        return place == m_places.end() || place->first != id ? absent : place->second;
+    }
+
+private:
+    std::vector<std::pair<std::int32_t, std::size_t>> m_places;
+};
+
+} // namespace
 
 CategoryTree::CategoryTree(Categories categories)
 {
     AddNodes(std::move(categories));
-    FindParents();
     CutCycles();
     GroupChildren();
     Walk();
@@ -17,28 +43,21 @@ CategoryTree::CategoryTree(Categories categories)
 
 void CategoryTree::AddNodes(Categories categories)
 {
-    std::unordered_set<std::int32_t> ids;
-    ids.reserve(categories.size());
-    m_nodes.reserve(categories.size());
-    for (auto& category : categories) {
-        if (category != nullptr && ids.insert(category->Id).second) {
+    const PlacesOfIds places(categories);
+    const std::size_t absent = categories.size();
+    std::vector<Index> nodeAt(categories.size(), kNone);
+    for (std::size_t at = 0; at < categories.size(); ++at) {
+        if (categories[at] != nullptr && places.Find(categories[at]->Id, absent) == at) {
+            nodeAt[at] = Size();
             m_nodes.emplace_back();
-            m_nodes.back().category = std::move(category);
+            m_nodes.back().category = std::move(categories[at]);
         }
     }
-}
-
-void CategoryTree::FindParents()
-{
-    std::unordered_map<std::int32_t, Index> nodeOfId;
-    nodeOfId.reserve(m_nodes.size());
-    for (Index node = 0; node < Size(); ++node)
-        nodeOfId.emplace(m_nodes[node].category->Id, node);
     for (Index node = 0; node < Size(); ++node) {
         // 0 means "no parent", even when a category carries that id.
         const std::int32_t parentId = m_nodes[node].category->ParentId;
-        const auto parent = parentId == 0 ? nodeOfId.end() : nodeOfId.find(parentId);
-        m_nodes[node].parent = parent == nodeOfId.end() || parent->second == node ? kNone : parent->second;
+        const std::size_t parent = parentId == 0 ? absent : places.Find(parentId, absent);
+        m_nodes[node].parent = parent == absent || nodeAt[parent] == node ? kNone : nodeAt[parent];
     }
 }
 
@@ -106,6 +125,23 @@ void CategoryTree::Walk()
 const tarnnuq::ICategory& CategoryTree::Category(Index node) const
 {
     return *m_nodes[node].category;
+}
+
+CategoryTree::Categories CategoryTree::WithComponents() const
+{
+    std::vector<bool> isWanted(m_nodes.size(), false);
+    for (Index start = 0; start < Size(); ++start) {
+        if (m_nodes[start].category->Count == 0)
+            continue;
+        for (Index node = start; node != kNone && !isWanted[node]; node = m_nodes[node].parent)
+            isWanted[node] = true;
+    }
+    Categories wanted;
+    for (Index node = 0; node < Size(); ++node) {
+        if (isWanted[node])
+            wanted.push_back(m_nodes[node].category);
+    }
+    return wanted;
 }
 
 CategoryTree::Index CategoryTree::Parent(Index node) const

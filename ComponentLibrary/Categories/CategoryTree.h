@@ -37,6 +37,12 @@ public:
     /** The record of a node. REQUIRES: 0 <= node < Size(). */
     const tarnnuq::ICategory& Category(Index node) const;
 
+    /**
+     * The records that count components, and those above them whatever they count: what a search has found. In the
+     * order of the list, so that it looks like the whole list with gaps.
+     */
+    Categories WithComponents() const;
+
     /** The parent of a node, kNone for a root. */
     Index Parent(Index node) const;
 
@@ -67,7 +73,6 @@ private:
     };
 
     void AddNodes(Categories categories);
-    void FindParents();
     void CutCycles();
     void GroupChildren();
     void Walk();

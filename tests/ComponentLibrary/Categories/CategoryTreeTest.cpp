@@ -1,6 +1,7 @@
 #include "Categories/CategoryTree.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <gtest/gtest.h>
 #include <random>
@@ -70,6 +71,48 @@ TEST(CategoryTree, CutsACycleAtItsFirstMember)
     EXPECT_EQ(Shape(TreeOf({{5, 0}, {1, 3}, {2, 1}, {3, 2}, {4, 3}})), "5 1 2/1 3/2 4/3");
     EXPECT_EQ(Shape(TreeOf({{4, 2}, {2, 3}, {3, 2}})), "2 4/1 3/1");
     EXPECT_EQ(Shape(TreeOf({{1, 1}})), "1");
+}
+
+/// The ids that are left when each row is "id, parent, count".
+std::string WithComponents(const std::vector<std::array<int, 3>>& rows)
+{
+    CategoryTree::Categories categories;
+    for (const auto& [id, parentId, count] : rows) {
+        categories.push_back(std::make_shared<ICategory>());
+        categories.back()->Id = id;
+        categories.back()->ParentId = parentId;
+        categories.back()->Count = count;
+    }
+    std::string ids;
+    for (const auto& category : CategoryTree(categories).WithComponents())
+        ids += (ids.empty() ? "" : " ") + std::to_string(category->Id);
+    return ids;
+}
+
+TEST(CategoryTree, KnowsWhatASearchHasFound)
+{
+    EXPECT_EQ(WithComponents({{4, 2, 1}, {1, 0, 1}, {2, 1, 1}, {3, 1, 0}, {5, 0, 0}, {6, 5, 0}}), "4 1 2");
+    EXPECT_EQ(WithComponents({{1, 0, 0}, {2, 1, 0}, {3, 2, 7}, {4, 2, 0}}), "1 2 3") << "above whatever they count";
+    EXPECT_EQ(WithComponents({{1, 0, -3}, {2, 0, 0}}), "1") << "a wrong count is shown, not hidden";
+    EXPECT_EQ(WithComponents({{1, 3, 0}, {2, 1, 1}, {3, 2, 0}}), "1 2") << "a cycle ends at its first member";
+    EXPECT_EQ(WithComponents({{1, 0, 0}, {2, 1, 0}}), "");
+    EXPECT_EQ(WithComponents({}), "");
+}
+
+TEST(CategoryTree, StaysQuickOnIdsThatWereChosen)
+{
+    // Multiples of a prime that hash tables have as a size all fall into one place of it.
+    CategoryTree::Categories categories;
+    for (int number = 1; number <= 40000; ++number) {
+        categories.push_back(std::make_shared<ICategory>());
+        categories.back()->Id = number * 42043 % 2147483629;
+        categories.back()->ParentId = (number - 1) * 42043 % 2147483629;
+        categories.back()->Count = number == 40000 ? 1 : 0;
+    }
+    const auto start = std::chrono::steady_clock::now();
+    const CategoryTree tree(categories);
+    EXPECT_EQ(tree.WithComponents().size(), 40000U);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 TEST(CategoryTree, LeavesNullRecordsOut)
