@@ -5,15 +5,23 @@
 #include "Requests/ReplyDiagnosis.h"
 
 #include <QNetworkRequest>
+#include <QtEndian>
 
 namespace componentlibrary {
 namespace {
 
-bool IsPicture(const QByteArray& start)
+/// By the marks at both ends: a reply without a length that was cut off counts as complete in Qt.
+bool IsWholePicture(const QByteArray& body)
 {
-    const bool isXml = start.contains("<svg");
-    return start.startsWith("\x89PNG\r\n\x1a\n") || start.startsWith("\xff\xd8\xff") || start.startsWith("GIF8") ||
-           (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || isXml;
+    if (body.startsWith("\x89PNG\r\n\x1a\n"))
+        return body.endsWith("IEND\xae\x42\x60\x82");
+    if (body.startsWith("\xff\xd8\xff"))
+        return body.endsWith("\xff\xd9");
+    if (body.startsWith("GIF8"))
+        return body.endsWith(';');
+    if (body.startsWith("RIFF") && body.mid(8, 4) == "WEBP")
+        return qFromLittleEndian<quint32>(body.constData() + 4) + qint64{8} <= body.size();
+    return body.left(1024).contains("<svg") && body.trimmed().endsWith("</svg>");
 }
 
 } // namespace
@@ -36,15 +44,18 @@ ImageProbe::~ImageProbe()
 
 void ImageProbe::Start()
 {
-    m_reply = m_channel.Manager().get(QNetworkRequest(m_address));
+    QNetworkRequest request(m_address);
+    request.setRawHeader("Accept-Encoding", "identity"); // Qt forgets the length of what it unpacks
+    m_reply = m_channel.Manager().get(request);
     connect(m_reply, &QNetworkReply::finished, this, &ImageProbe::OnFinished);
     m_timeLimit.start(m_channel.Settings().timeLimit);
 }
 
 void ImageProbe::OnFinished()
 {
-    const QByteArray start = m_reply->peek(1024);
-    if (m_reply->error() == QNetworkReply::NoError && IsPicture(start))
+    const QByteArray body = m_reply->peek(m_reply->bytesAvailable());
+    const bool isWhole = m_reply->error() == QNetworkReply::NoError && !IsCutShort(*m_reply, body.size());
+    if (isWhole && IsWholePicture(body))
         return End(ErrorCode::None);
     ErrorInfo error = DiagnoseReply(*m_reply, {});
     m_error.httpStatus = error.httpStatus;

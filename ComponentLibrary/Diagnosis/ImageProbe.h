@@ -14,7 +14,8 @@ class HttpChannel;
 
 /**
  * Fetches one picture, as views do it: without the Authorization header. Ends once, with a picture or an error.
- * Whether the body is a picture is told by its first bytes (PNG, JPEG, GIF, WebP, SVG).
+ * Whether the body is a picture is told by its first and last bytes (PNG, JPEG, GIF, WebP,
+ * SVG), so that one that was cut off is none.
  */
 class ImageProbe : public QObject
 {

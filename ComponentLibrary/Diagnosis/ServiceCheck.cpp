@@ -26,6 +26,21 @@ QString Tr(const char* text)
     return QCoreApplication::translate("Diagnosis", text);
 }
 
+QString DifferenceText(qint64 seconds)
+{
+    constexpr qint64 minute = 60;
+    constexpr qint64 hour = 60 * minute;
+    constexpr qint64 day = 24 * hour;
+    // The whole part of the largest unit that gives at least two of it: nobody reads 31536000 s.
+    if (seconds < 2 * minute)
+        return Tr(QT_TRANSLATE_NOOP("Diagnosis", "%1 s apart from the server's")).arg(seconds);
+    if (seconds < 2 * hour)
+        return Tr(QT_TRANSLATE_NOOP("Diagnosis", "%1 min apart from the server's")).arg(seconds / minute);
+    if (seconds < 2 * day)
+        return Tr(QT_TRANSLATE_NOOP("Diagnosis", "%1 h apart from the server's")).arg(seconds / hour);
+    return Tr(QT_TRANSLATE_NOOP("Diagnosis", "%1 days apart from the server's")).arg(seconds / day);
+}
+
 bool IsTls(ErrorCode code)
 {
     return code >= ErrorCode::TlsMissing && code <= ErrorCode::TlsFault;
@@ -43,7 +58,8 @@ ServiceCheck::ServiceCheck(Catalogue& catalogue, QObject* parent)
     : QObject(parent), m_catalogue(catalogue), m_address(catalogue.Urls().Projects())
 {
     ChannelSettings settings = catalogue.Channel().Settings();
-    settings.retry.tries = 1; // a fault that comes and goes is a finding
+    settings.retry.tries = 1;  // a fault that comes and goes is a finding
+    settings.isPacked = false; // and one that cuts answers shows its name only in plain ones
     catalogue.Channel().SetSettings(settings);
 }
 
@@ -192,7 +208,7 @@ void ServiceCheck::JudgeClock()
         return Add(
             "service.clock", Verdict::Skipped, Tr(QT_TRANSLATE_NOOP("Diagnosis", "the server does not tell its time")));
     const qint64 seconds = std::llabs(*difference);
-    const QString text = Tr(QT_TRANSLATE_NOOP("Diagnosis", "%1 s apart from the server's")).arg(seconds);
+    const QString text = DifferenceText(seconds);
     if (seconds <= kDoubtfulSeconds)
         return Add("service.clock", Verdict::Good, text);
     Add("service.clock", seconds > kWrongSeconds ? Verdict::Fault : Verdict::Warning, text,

@@ -175,7 +175,9 @@ QString TimeText(const ErrorInfo& error)
 {
     if (!error.retryAt.isValid())
         return QCoreApplication::translate("ErrorTexts", "some later time");
-    return error.retryAt.toLocalTime().toString(QStringLiteral("HH:mm:ss"));
+    const QDateTime moment = error.retryAt.toLocalTime();
+    const bool isToday = moment.date() == QDate::currentDate();
+    return moment.toString(isToday ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm"));
 }
 
 QString MessageText(const ErrorInfo& error)
@@ -247,6 +249,13 @@ QString ErrorCause(const ErrorInfo& error)
 {
     const ErrorKind* kind = FindKind(error.code);
     return kind == nullptr ? QString() : Fill(Translate(kind->sentence), error);
+}
+
+QString ServerRemark(const ErrorInfo& error)
+{
+    if (error.serverMessage.isEmpty() || error.code == ErrorCode::ServerRejected)
+        return QString();
+    return QCoreApplication::translate("ErrorTexts", "The server says: %1").arg(error.serverMessage);
 }
 
 QString ErrorHint(const ErrorInfo& error)

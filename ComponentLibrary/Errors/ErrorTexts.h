@@ -24,6 +24,12 @@ QString ErrorSentence(const ErrorInfo& error);
 /** Only why it failed, for a place that already says what was tried. Empty when there is no error. */
 QString ErrorCause(const ErrorInfo& error);
 
+/**
+ * What the server itself says about it, in its own words: "The server says: There is no project P9." Empty when it
+ * says nothing, or when ErrorCause already holds it.
+ */
+QString ServerRemark(const ErrorInfo& error);
+
 /** What the user can try, one or two sentences in the language of the installed translators; may be empty. */
 QString ErrorHint(const ErrorInfo& error);
 

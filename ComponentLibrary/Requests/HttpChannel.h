@@ -19,8 +19,9 @@ struct ChannelSettings
     int timeLimit = 30000; ///< milliseconds for one try, counted from the moment it is handed to Qt
     RetryPolicy retry;
     qint64 largestBody = qint64{256} << 20; ///< bytes after decompression
-    bool isOffline = false;                 ///< when set, every request ends with ErrorCode::Offline, unsent
-    QByteArray language = "en";             ///< Accept-Language of the requests
+    bool isPacked = true;   ///< whether answers may come compressed; from this computer they never do: it only costs
+    bool isOffline = false; ///< when set, every request ends with ErrorCode::Offline, unsent
+    QByteArray language = "en"; ///< Accept-Language of the requests
     /// Sets the Authorization header; by default the library's own rule for the current environment. The header never
     /// goes to another host than the one first asked.
     std::function<void(QNetworkRequest&)> authorize;

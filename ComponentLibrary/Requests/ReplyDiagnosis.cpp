@@ -140,6 +140,8 @@ void ReadEnvelope(QNetworkReply& reply, ErrorInfo& error)
 /// What the body looks like before any parser sees it; a parser would report all of these as the same syntax error.
 ErrorCode BodyCause(QNetworkReply& reply)
 {
+    if (IsCutShort(reply, reply.bytesAvailable()))
+        return ErrorCode::NetworkClosed;
     const QByteArray start = reply.peek(256).trimmed();
     if (start.isEmpty())
         return reply.bytesAvailable() == 0 ? ErrorCode::ServerEmptyAnswer : ErrorCode::ServerNotJson;
@@ -218,6 +220,14 @@ ErrorInfo DiagnoseHandlerText(const QString& text)
     const bool isEnvelope = !error.serverCode.isEmpty() || !error.serverMessage.isEmpty();
     error.code = isEnvelope ? ErrorCode::ServerRejected : ErrorCode::ServerWrongShape;
     return error;
+}
+
+bool IsCutShort(const QNetworkReply& reply, qint64 received)
+{
+    // Qt takes the length out where it unpacks the body.
+    bool isNumber = false;
+    const qint64 announced = reply.rawHeader("Content-Length").trimmed().toLongLong(&isNumber);
+    return isNumber && received < announced;
 }
 
 bool IsPassing(const ErrorInfo& error)

@@ -35,6 +35,15 @@ bool IsLoopback(const QUrl& url)
     return url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
 }
 
+/// These lists exist on every service: a plain "not found" for them comes from something else at that address.
+bool IsForeign(const ErrorInfo& error, Operation operation)
+{
+    const bool isAlwaysThere = operation == Operation::LoadCategories || operation == Operation::LoadProjects ||
+                               operation == Operation::LoadMappings;
+    const bool isEnvelope = !error.serverCode.isEmpty() || !error.serverMessage.isEmpty();
+    return error.code == ErrorCode::NotFound && isAlwaysThere && !isEnvelope;
+}
+
 bool MayFollow(const QUrl& from, const QUrl& to)
 {
     const bool isWeb = to.scheme() == QLatin1String("http") || to.scheme() == QLatin1String("https");
@@ -119,8 +128,8 @@ QNetworkRequest RequestBase::MakeNetworkRequest() const
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setRawHeader("Accept", "application/json");
     request.setRawHeader("Accept-Language", settings.language);
-    if (IsLoopback(m_target))
-        request.setRawHeader("Accept-Encoding", "identity"); // packing costs more than it saves on one machine
+    if (AsksPlainly())
+        request.setRawHeader("Accept-Encoding", "identity");
     if (IsSameOrigin(m_address, m_target))
         settings.authorize(request);
     return request;
@@ -181,6 +190,10 @@ void RequestBase::Judge(QNetworkReply& reply)
     ErrorInfo error = DiagnoseReply(reply, m_tlsErrors);
     if (!error.IsError())
         error = ReadResult(reply);
+    if (AskPlainly(error, reply))
+        return;
+    if (IsForeign(error, m_operation))
+        error.code = ErrorCode::ServerUnexpectedStatus;
     error.operation = m_operation;
     error.address = AddressText(m_target);
     error.tries = m_tries;
@@ -208,6 +221,34 @@ void RequestBase::FollowRedirect(const QNetworkReply& reply)
     EnterQueue();
 }
 
+bool RequestBase::AsksPlainly() const
+{
+    return m_wantsPlain || !m_channel->Settings().isPacked || IsLoopback(m_target);
+}
+
+/// Qt forgets the length of a compressed answer, so one that was cut off looks like one that makes no sense, or like
+/// an empty one. Asked for plainly it shows what it is.
+bool RequestBase::AskPlainly(const ErrorInfo& error, const QNetworkReply& reply)
+{
+    const bool mayBeCut = error.code == ErrorCode::ServerNotJson || error.code == ErrorCode::ServerEmptyAnswer;
+    const bool wasPacked = !AsksPlainly() && !reply.rawHeader("Content-Encoding").isEmpty();
+    if (!mayBeCut || !wasPacked || m_tries >= m_channel->Settings().retry.tries)
+        return false;
+    m_wantsPlain = true;
+    AskAgain(0);
+    return true;
+}
+
+void RequestBase::AskAgain(int wait)
+{
+    DropReply();
+    m_state = State::Waiting;
+    m_redirects = 0;
+    m_target = m_address;
+    m_retry.start(wait);
+    emit Retrying(m_tries + 1, wait);
+}
+
 bool RequestBase::RetryLater(const ErrorInfo& error)
 {
     const ChannelSettings& settings = m_channel->Settings();
@@ -218,12 +259,7 @@ bool RequestBase::RetryLater(const ErrorInfo& error)
         wait = std::max(wait, QDateTime::currentDateTimeUtc().msecsTo(error.retryAt) + 1);
     if (wait > settings.retry.longestPromise)
         return false;
-    DropReply();
-    m_state = State::Waiting;
-    m_redirects = 0;
-    m_target = m_address;
-    m_retry.start(static_cast<int>(wait));
-    emit Retrying(m_tries + 1, static_cast<int>(wait));
+    AskAgain(static_cast<int>(wait));
     return true;
 }
 

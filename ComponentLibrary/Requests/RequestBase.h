@@ -107,6 +107,9 @@ private:
     void Judge(QNetworkReply& reply);
     void FollowRedirect(const QNetworkReply& reply);
     bool RetryLater(const ErrorInfo& error);
+    bool AskPlainly(const ErrorInfo& error, const QNetworkReply& reply);
+    bool AsksPlainly() const;
+    void AskAgain(int wait);
     void LogStart() const;
     void LogEnd() const;
     void DropReply();
@@ -131,6 +134,7 @@ private:
     int m_number = 0;
     int m_tries = 0;
     int m_redirects = 0;
+    bool m_wantsPlain = false;
 };
 
 } // namespace componentlibrary

@@ -203,6 +203,18 @@
         <source>no component with a thumbnail to try</source>
         <translation>没有可供尝试的带缩略图的构件</translation>
     </message>
+    <message>
+        <source>%1 min apart from the server's</source>
+        <translation>与服务器相差 %1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 h apart from the server's</source>
+        <translation>与服务器相差 %1 小时</translation>
+    </message>
+    <message>
+        <source>%1 days apart from the server's</source>
+        <translation>与服务器相差 %1 天</translation>
+    </message>
 </context>
 <context>
     <name>ErrorTexts</name>
@@ -559,6 +571,10 @@
         <comment>what failed, then why</comment>
         <extracomment>joins "what failed" and "why"; Chinese needs no blank between two sentences</extracomment>
         <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>The server says: %1</source>
+        <translation>服务器的说明：%1</translation>
     </message>
 </context>
 </TS>

@@ -14,7 +14,6 @@ using testsupport::ScriptedResponse;
 using testsupport::WaitFor;
 
 const QByteArray kProjects = Envelope(R"([{"id":"P1"}])");
-const QByteArray kPng = QByteArray("\x89PNG\r\n\x1a\n and more", 16);
 
 class ServiceCheckTest : public CatalogueFixture
 {
@@ -114,6 +113,21 @@ TEST_F(ServiceCheckTest, NamesAWrongClockAndGoesOn)
     OnProjects(WithDate(ScriptedResponse::Json(kProjects), -3600));
     OnGoodComponents();
     EXPECT_EQ(NotGood(), "service.clock=fault static.thumbnail=skipped ");
+}
+
+TEST_F(ServiceCheckTest, TellsTheDifferenceOfClocksInReadableUnits)
+{
+    // Half a unit more than shown, so that a slow run shows the same.
+    const std::vector<std::pair<int, const char*>> rows = {{90 * 60 + 30, "90 min apart from the server's"},
+        {-(5 * 3600 + 1800), "5 h apart from the server's"},
+        {-(365 * 86400 + 43200), "365 days apart from the server's"}};
+    for (const auto& [seconds, text] : rows) {
+        ends = 0;
+        server.Enqueue(WithDate(ScriptedResponse::Json(kProjects), seconds));
+        OnGoodComponents();
+        NotGood();
+        EXPECT_EQ(findings.at(5).text.toStdString(), text);
+    }
 }
 
 TEST_F(ServiceCheckTest, WarnsOfADoubtfulClock)

@@ -17,7 +17,7 @@ ErrorInfo Example(ErrorCode code)
     error.address = QStringLiteral("http://h.example:8080/api/x");
     error.httpStatus = 500;
     error.serverMessage = QStringLiteral("Closed {today} %1.");
-    error.retryAt = QDateTime(QDate(2026, 11, 21), QTime(10, 20, 30), Qt::UTC);
+    error.retryAt = QDateTime(QDate(2099, 11, 21), QTime(10, 20, 30), Qt::UTC);
     return error;
 }
 
@@ -145,9 +145,9 @@ const std::vector<Row>& Rows()
             "服务器上没有这个名称的内容。",
             "请检查编号或编码。"},
         {"server.rate_limited",
-            "h.example:8080 accepts no more requests until 10:20:30.",
+            "h.example:8080 accepts no more requests until 2099-11-21 10:20.",
             "Wait until then and try again.",
-            "h.example:8080 在 10:20:30 之前不再接受请求。",
+            "h.example:8080 在 2099-11-21 10:20 之前不再接受请求。",
             "请等到那时再试。"},
         {"server.unavailable",
             "h.example:8080 is not available at the moment.",
@@ -286,6 +286,31 @@ TEST(ErrorTexts, FindWordsForWhatIsNotKnown)
     error.address = QStringLiteral("http://[::1]:80/x");
     EXPECT_EQ(ErrorSentence(error).toStdString(),
         "The projects could not be loaded. [::1]:80 rejected the request: it gave no reason.");
+}
+
+TEST(ErrorTexts, NameTheDayOfTheNextTryUnlessItIsToday)
+{
+    ErrorInfo error;
+    error.code = ErrorCode::ServerRateLimited;
+    const QDateTime noon(QDate::currentDate(), QTime(12, 0, 5));
+    error.retryAt = noon;
+    EXPECT_EQ(ErrorCause(error).toStdString(), "The server accepts no more requests until 12:00:05.");
+    error.retryAt = noon.addDays(1);
+    EXPECT_EQ(ErrorCause(error), QStringLiteral("The server accepts no more requests until %1 12:00.")
+                                     .arg(noon.addDays(1).toString(QStringLiteral("yyyy-MM-dd"))));
+}
+
+TEST(ErrorTexts, RepeatWhatTheServerSaysOnce)
+{
+    ErrorInfo error = Example(ErrorCode::NotFound);
+    EXPECT_EQ(ServerRemark(error).toStdString(), "The server says: Closed {today} %1.");
+    error.code = ErrorCode::ServerRejected;
+    EXPECT_EQ(ServerRemark(error), QString()) << "the cause holds it";
+    error.code = ErrorCode::NotFound;
+    error.serverMessage.clear();
+    EXPECT_EQ(ServerRemark(error), QString());
+    const Translations translations(QStringLiteral("zh"));
+    EXPECT_EQ(ServerRemark(Example(ErrorCode::ServerFault)).toStdString(), "服务器的说明：Closed {today} %1.");
 }
 
 TEST(ErrorTexts, AreEmptyWithoutAnError)

@@ -249,6 +249,100 @@ TEST_F(RequestTest, SucceedsWhenTheFaultPasses)
     EXPECT_EQ(server.Requests().size(), 3u);
 }
 
+/// This computer under an address that does not say so: answers may come compressed as they do over a network.
+class PackedRequestTest : public RequestTest
+{
+protected:
+    PackedRequestTest() : m_packed(qCompress(kGood.leftJustified(2000, ' ')).mid(4)) {}
+
+    ScriptedResponse Packed() const
+    {
+        return ScriptedResponse::Json(m_packed).WithHeader("Content-Encoding", "deflate");
+    }
+
+    std::unique_ptr<ProjectsRequest> Ended()
+    {
+        QString address = server.BaseUrl();
+        catalogue = std::make_unique<Catalogue>(settings, address.replace("127.0.0.1", "0.0.0.0"));
+        auto request = catalogue->Projects();
+        EXPECT_TRUE(Run(*request));
+        return request;
+    }
+
+    QByteArray Accepted(std::size_t request) const { return server.Requests().at(request).Header("Accept-Encoding"); }
+
+private:
+    const QByteArray m_packed;
+};
+
+TEST_F(PackedRequestTest, TakesAnswersCompressed)
+{
+    server.On(kProjects, Packed());
+    EXPECT_EQ(Ended()->Result().size(), 1u);
+    ASSERT_EQ(server.Requests().size(), 1u);
+    EXPECT_EQ(Accepted(0), "gzip, deflate");
+}
+
+class CutRequestTest : public PackedRequestTest, public ::testing::WithParamInterface<CutPoint>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    WithinAndBeforeTheBody, CutRequestTest, ::testing::Values(CutPoint::WithinBody, CutPoint::AfterHeaders));
+
+// How often the server is asked is no measure here: Qt sends a request again whose connection has just gone.
+TEST_P(CutRequestTest, AsksPlainlyWhereACutMayHideAndGoesOn)
+{
+    server.On(kProjects, Packed().CutAt(GetParam()));
+    server.On(kProjects, ScriptedResponse::Json(kGood));
+    EXPECT_EQ(Ended()->Result().size(), 1u);
+    EXPECT_EQ(Accepted(0), "gzip, deflate");
+    EXPECT_EQ(server.Requests().back().Header("Accept-Encoding"), "identity");
+}
+
+TEST_P(CutRequestTest, NamesACutForWhatItIs)
+{
+    server.On(kProjects, Packed().CutAt(GetParam()));
+    server.On(kProjects, ScriptedResponse::Json(kGood).CutAt(GetParam()));
+    const auto request = Ended();
+    EXPECT_EQ(ErrorId(request->Error().code).toStdString(), "network.closed");
+    EXPECT_EQ(request->Error().tries, 3);
+}
+
+TEST_F(PackedRequestTest, AsksOnceMoreAboutNonsenseAndNotForEver)
+{
+    server.On(
+        kProjects, ScriptedResponse::Json(qCompress("nonsense").mid(4)).WithHeader("Content-Encoding", "deflate"));
+    server.On(kProjects, ScriptedResponse::Json("nonsense"));
+    const auto request = Ended();
+    EXPECT_EQ(ErrorId(request->Error().code).toStdString(), "server.bad_answer");
+    EXPECT_EQ(request->Error().tries, 2);
+}
+
+TEST_F(PackedRequestTest, AsksForPlainAnswersWhereThatIsSet)
+{
+    settings.isPacked = false;
+    server.On(kProjects, ScriptedResponse::Json(kGood));
+    EXPECT_EQ(Ended()->Result().size(), 1u);
+    EXPECT_EQ(Accepted(0), "identity");
+}
+
+TEST_F(RequestTest, TellsAnUnknownThingFromAnotherServer)
+{
+    const QByteArray envelope = R"({"code":"NOT_FOUND","message":"There is no P9.","data":null})";
+    EXPECT_EQ(CodeOf(ScriptedResponse::Json(envelope, 404)), "not_found");
+    for (const char* path : {"/v3/categories", "/v1/hox_design/category/mappings", "/v1/components/C1"})
+        server.On(path, ScriptedResponse::Status(404));
+    const auto categories = TheCatalogue().Categories(QString());
+    const auto mappings = TheCatalogue().Mappings();
+    const auto component = TheCatalogue().Component(QStringLiteral("C1"), QString());
+    ASSERT_TRUE(Run(*categories) && Run(*mappings) && Run(*component));
+    EXPECT_EQ(ErrorId(categories->Error().code).toStdString(), "server.unexpected_status") << "it is always there";
+    EXPECT_EQ(categories->Error().httpStatus, 404);
+    EXPECT_EQ(ErrorId(mappings->Error().code).toStdString(), "server.unexpected_status");
+    EXPECT_EQ(ErrorId(component->Error().code).toStdString(), "not_found") << "an id may be unknown";
+}
+
 TEST_F(RequestTest, DoesNotRepeatWhatWillNotPass)
 {
     for (const int status : {400, 401, 403, 404, 500, 501}) {
