@@ -1,5 +1,6 @@
 #include "CommandLine/CommandLineParser.h"
 
+#include "CommandLine/OptionValues.h"
 #include "CommandLine/Suggestion.h"
 #include "CommandLine/UsageError.h"
 
@@ -43,6 +44,12 @@ int WholeNumber(const std::string& value, const QString& name, int least, int mo
     return number;
 }
 
+void CheckFilled(const QString& value, const QString& name)
+{
+    if (value.isEmpty())
+        throw UsageError(Tr(QT_TRANSLATE_NOOP("CommandLine", "%1 must not be empty.")).arg(name));
+}
+
 void CheckChoice(const OptionSpec& spec, const QString& value)
 {
     QStringList choices;
@@ -76,6 +83,8 @@ public:
         AddOption(spec, [&spec, &target](const std::string& value) {
             target = Decoded(value, QString::fromLatin1(spec.name));
             CheckChoice(spec, target);
+            if (!spec.mayBeEmpty)
+                CheckFilled(target, QString::fromLatin1(spec.name));
         });
     }
 
@@ -104,8 +113,7 @@ public:
         const QString label = QString::fromLatin1(name);
         m_app.add_option_function<std::string>(name, [&target, label](const std::string& value) {
             target = Decoded(value, label);
-            if (target.isEmpty())
-                throw UsageError(Tr(QT_TRANSLATE_NOOP("CommandLine", "%1 must not be empty.")).arg(label));
+            CheckFilled(target, label);
         });
     }
 
@@ -224,7 +232,9 @@ void CheckRemaining(const CLI::App& app, const Commands& commands, const Command
             ComplainAboutWord(word, commands, command);
     }
     for (const std::string& word : remaining) {
-        if (word.size() > 1 && word[0] == '-' && word != "--")
+        // A known option can only be left over behind "--", where it is a word like any other.
+        const bool isKnown = OptionNames(command).contains(QString::fromStdString(word));
+        if (word.size() > 1 && word[0] == '-' && word != "--" && !isKnown)
             ComplainAboutOption(word, command);
         if (word != "--")
             ComplainAboutWord(word, commands, command);
@@ -284,6 +294,7 @@ ParsedCommandLine ParseCommandLine(const Commands& commands, const std::vector<s
         command->Bind(binder);
         binder.CheckAllBound();
     }
+    CheckOptionValues(commands, arguments);
     Parse(app, arguments);
     parsed.global.colour = ModeOf(colour);
     for (const auto& command : commands) {

@@ -15,6 +15,7 @@ struct OptionSpec
     const char* valueName;                 ///< "TEXT"; "" for a switch
     const char* help;                      ///< what it does, one sentence without a period at its end
     std::vector<const char*> choices = {}; ///< the values allowed, when only these are
+    bool mayBeEmpty = false;               ///< whether "" is a value; elsewhere it is a variable that a script lost
 };
 
 struct ArgumentSpec

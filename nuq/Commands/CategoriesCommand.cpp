@@ -19,55 +19,49 @@ namespace {
 
 constexpr std::size_t kBytesOfCategory = 180;
 
-void WriteCategories(
-    JsonWriter& json, const CategoryTree::Categories& categories, const QString& keyword, bool isService)
+template <class Elements, class WriteElement>
+void WriteDocument(Session& session, const QString& keyword, const Elements& elements, const WriteElement& writeElement)
 {
-    json.Reserve(categories.size() * kBytesOfCategory + 100);
-    json.BeginObject();
-    json.Key("categories");
-    json.BeginArray(true);
-    for (const auto& category : categories) {
-        if (isService)
-            WriteServiceCategory(json, *category);
-        else
-            WriteCategory(json, *category);
-    }
-    json.EndArray();
-    json.Member("keyword", keyword);
-    json.Member("schema", kSchema);
-    json.EndObject();
-}
-
-void WriteTree(JsonWriter& json, const CategoryTree& tree, const QString& keyword)
-{
-    json.BeginObject();
-    json.Key("categories");
-    json.BeginArray(true);
-    for (const CategoryTree::Index node : tree.DepthFirst())
-        WriteCategory(json, tree.Category(node), tree.Depth(node));
-    json.EndArray();
-    json.Member("keyword", keyword);
-    json.Member("schema", kSchema);
-    json.EndObject();
-}
-
-void ShowTree(Session& session, CategoryTree::Categories categories, const QString& keyword)
-{
-    const CategoryTree tree(std::move(categories));
-    if (!session.Options().json)
-        return session.Out().Write(CategoryTreeText(session, tree));
     JsonWriter json;
-    WriteTree(json, tree, keyword);
+    json.Reserve(elements.size() * kBytesOfCategory + 100);
+    json.BeginObject();
+    json.List("categories", elements, writeElement);
+    json.Member("keyword", keyword);
+    json.Member("schema", kSchema);
+    json.EndObject();
     session.WriteDocument(json);
 }
 
-void ShowList(Session& session, const CategoryTree::Categories& categories, const QString& keyword, bool isService)
+void ShowTree(Session& session, const CategoryTree& tree, const QString& keyword)
+{
+    if (!session.Options().json)
+        return session.Out().Write(CategoryTreeText(session, tree));
+    WriteDocument(session, keyword, tree.DepthFirst(), [&tree](JsonWriter& json, CategoryTree::Index node) {
+        WriteCategory(json, tree.Category(node), tree.Depth(node));
+    });
+}
+
+void ShowList(Session& session, const CategoryTree::Categories& categories, const QString& keyword)
 {
     if (!session.Options().json)
         return session.Out().Write(CategoryTable(session, categories));
-    JsonWriter json;
-    WriteCategories(json, categories, keyword, isService);
-    session.WriteDocument(json);
+    WriteDocument(
+        session, keyword, categories, [](JsonWriter& json, const auto& category) { WriteCategory(json, *category); });
+}
+
+void ShowServiceList(Session& session, const CategoryTree::Categories& categories, const QString& keyword)
+{
+    if (!session.Options().json)
+        return session.Out().Write(CategoryTable(session, categories));
+    WriteDocument(session, keyword, categories,
+        [](JsonWriter& json, const auto& category) { WriteServiceCategory(json, *category); });
+}
+
+QString EmptyText(const QString& keyword)
+{
+    if (keyword.isEmpty())
+        return Say(QT_TRANSLATE_NOOP("Messages", "The catalogue has no categories."));
+    return Say(QT_TRANSLATE_NOOP("Messages", "No category has a component that matches \"%1\".")).arg(keyword);
 }
 
 ErrorInfo ServiceError(ErrorCode code)
@@ -89,10 +83,11 @@ const CommandSpec& CategoriesCommand::Spec() const
     static const CommandSpec spec = {
         "categories",
         QT_TRANSLATE_NOOP("CommandTable", "List the categories with the number of their components"),
-        QT_TRANSLATE_NOOP("CommandTable", "The count of a category covers its own components and those of the categories below it, each once."),
+        QT_TRANSLATE_NOOP("CommandTable", "The count of a category covers its own components and those of the categories below it, each once. With --keyword only the categories with matching components are listed, and those above them."),
         {},
         {
-            {"--keyword", "-k", "TEXT", QT_TRANSLATE_NOOP("CommandTable", "Count only components that match this text")},
+            {"--keyword", "-k", "TEXT", QT_TRANSLATE_NOOP("CommandTable", "Count only components that match this text"), {}, true},
+            {"--all", "-a", "", QT_TRANSLATE_NOOP("CommandTable", "With --keyword: list the categories without a match as well")},
             {"--tree", "", "", QT_TRANSLATE_NOOP("CommandTable", "Show the categories as a tree")},
             {"--service", "", "", QT_TRANSLATE_NOOP("CommandTable", "Ask the library's public category service, which knows no codes and reports no errors")},
         },
@@ -109,6 +104,7 @@ const CommandSpec& CategoriesCommand::Spec() const
 void CategoriesCommand::Bind(OptionBinder& binder)
 {
     binder.Text("--keyword", m_options.keyword);
+    binder.Switch("--all", m_options.all);
     binder.Switch("--tree", m_options.tree);
     binder.Switch("--service", m_options.service);
 }
@@ -127,12 +123,14 @@ ExitCode CategoriesCommand::Run(Session& session)
     if (!session.Await(*request))
         return session.Fail(request->Error());
     auto categories = request->TakeResult();
+    if (!m_options.keyword.isEmpty() && !m_options.all)
+        categories = CategoryTree(std::move(categories)).WithComponents();
     if (categories.empty())
-        session.Note(Say(QT_TRANSLATE_NOOP("Messages", "The catalogue has no categories.")));
+        session.Note(EmptyText(m_options.keyword));
     if (m_options.tree)
-        ShowTree(session, std::move(categories), m_options.keyword);
+        ShowTree(session, CategoryTree(std::move(categories)), m_options.keyword);
     else
-        ShowList(session, categories, m_options.keyword, false);
+        ShowList(session, categories, m_options.keyword);
     return ExitCode::Done;
 }
 
@@ -145,7 +143,7 @@ ExitCode CategoriesCommand::RunService(Session& session)
     CategoryTree::Categories categories;
     switch (AskPublicCategoryService(session, m_options.keyword, categories)) {
     case ServiceAnswer::Categories:
-        ShowList(session, categories, m_options.keyword, true);
+        ShowServiceList(session, categories, m_options.keyword);
         return ExitCode::Done;
     case ServiceAnswer::TimedOut:
         return session.Fail(ServiceError(ErrorCode::NetworkTimeout));

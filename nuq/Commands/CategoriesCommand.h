@@ -19,6 +19,7 @@ private:
     struct Options
     {
         QString keyword;
+        bool all = false;
         bool tree = false;
         bool service = false;
     };

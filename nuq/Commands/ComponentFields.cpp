@@ -30,9 +30,11 @@ FieldList ComponentFields(const tarnnuq::IDetailedProjectComponent& component)
     // The record keeps the sizes as texts in the order of texts, 128 before 64.
     std::stable_sort(thumbnails.begin(), thumbnails.end(),
         [](const Entry& one, const Entry& other) { return one.first.size() < other.first.size(); });
+    const std::size_t longest = thumbnails.empty() ? 0 : thumbnails.back().first.size();
     for (const auto& [size, urls] : thumbnails) {
+        const std::string filler(longest - size.size(), ' ');
         for (const std::wstring& url : urls) {
-            fields.Add(label, VisibleText(size) + " px  " + VisibleText(url));
+            fields.Add(label, filler + VisibleText(size) + " px  " + VisibleText(url));
             label.clear();
         }
     }

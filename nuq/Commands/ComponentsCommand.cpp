@@ -13,6 +13,7 @@ namespace nuq {
 using componentlibrary::ComponentQuery;
 using componentlibrary::ComponentStream;
 using componentlibrary::ErrorCode;
+using componentlibrary::ErrorInfo;
 using componentlibrary::StreamSummary;
 
 namespace {
@@ -39,11 +40,8 @@ QString RangeText(const ComponentQuery& query, int received, int total)
 void WritePage(JsonWriter& json, const Components& components, const ComponentQuery& query, int total)
 {
     json.BeginObject();
-    json.Key("components");
-    json.BeginArray(true);
-    for (const auto& component : components)
-        WriteComponent(json, *component);
-    json.EndArray();
+    json.List(
+        "components", components, [](JsonWriter& list, const auto& component) { WriteComponent(list, *component); });
     json.Member("page", query.page);
     json.Member("pageSize", query.pageSize);
     json.Member("schema", kSchema);
@@ -75,6 +73,24 @@ private:
     Table m_table;
 };
 
+void WriteErrorMember(JsonWriter& json, const ErrorInfo& error)
+{
+    json.Key("error");
+    json.BeginObject();
+    WriteError(json, error);
+    json.EndObject();
+}
+
+void WriteSummary(JsonWriter& json, const StreamSummary& summary)
+{
+    json.Key("summary");
+    json.BeginObject();
+    json.Member("changed", summary.hasChanged);
+    json.Member("count", summary.delivered);
+    json.Member("totalCount", summary.totalCount);
+    json.EndObject();
+}
+
 /// One JSON document a line, the last one a summary or the error.
 class LineListing
 {
@@ -98,39 +114,25 @@ public:
     void End(const ComponentStream& stream)
     {
         m_json.BeginObject();
-        if (stream.Error().IsError()) {
-            m_json.Key("error");
-            m_json.BeginObject();
-            WriteError(m_json, stream.Error());
-            m_json.EndObject();
-        }
+        if (stream.Error().IsError())
+            WriteErrorMember(m_json, stream.Error());
         m_json.Member("schema", kSchema);
         if (!stream.Error().IsError())
-            WriteSummary(stream.Summary());
+            WriteSummary(m_json, stream.Summary());
         m_json.EndObject();
         m_session.WriteDocument(m_json);
     }
 
 private:
-    void WriteSummary(const StreamSummary& summary)
-    {
-        m_json.Key("summary");
-        m_json.BeginObject();
-        m_json.Member("changed", summary.hasChanged);
-        m_json.Member("count", summary.delivered);
-        m_json.Member("totalCount", summary.totalCount);
-        m_json.EndObject();
-    }
-
     Session& m_session;
     JsonWriter m_json;
 };
 
-/// One document for everything: it can only be written when all is there.
+/// One document for everything, written page by page.
 class DocumentListing
 {
 public:
-    DocumentListing()
+    explicit DocumentListing(Session& session) : m_session(session)
     {
         m_json.BeginObject();
         m_json.Key("components");
@@ -141,24 +143,29 @@ public:
     {
         for (const auto& component : components)
             WriteComponent(m_json, *component);
+        m_session.Out().Write(m_json.Buffer());
+        m_json.Clear();
+        m_hasBegun = true;
     }
 
-    void End(Session& session, const StreamSummary& summary)
+    /// Whether a part is already written: from then on an error can only stand inside the document.
+    bool HasBegun() const { return m_hasBegun; }
+
+    void End(const ComponentStream& stream)
     {
         m_json.EndArray();
+        if (stream.Error().IsError())
+            WriteErrorMember(m_json, stream.Error());
         m_json.Member("schema", kSchema);
-        m_json.Key("summary");
-        m_json.BeginObject();
-        m_json.Member("changed", summary.hasChanged);
-        m_json.Member("count", summary.delivered);
-        m_json.Member("totalCount", summary.totalCount);
+        WriteSummary(m_json, stream.Summary());
         m_json.EndObject();
-        m_json.EndObject();
-        session.WriteDocument(m_json);
+        m_session.WriteDocument(m_json);
     }
 
 private:
+    Session& m_session;
     JsonWriter m_json;
+    bool m_hasBegun = false;
 };
 
 /// A reader that has seen enough is no failure.
@@ -197,11 +204,14 @@ ExitCode ListAsLines(Session& session, ComponentStream& stream)
 
 ExitCode ListAsDocument(Session& session, ComponentStream& stream)
 {
-    DocumentListing listing;
+    DocumentListing listing(session);
     RunStream(session, stream, [&listing](const Components& page) { listing.Add(page); });
-    if (!stream.Error().IsError())
-        listing.End(session, stream.Summary());
-    return EndListing(session, stream);
+    if (IsClosedPipe(session, stream))
+        return ExitCode::Done;
+    if (stream.Error().IsError() && !listing.HasBegun())
+        return session.Fail(stream.Error());
+    listing.End(stream);
+    return stream.Error().IsError() ? session.Tell(stream.Error()) : EndListing(session, stream);
 }
 
 } // namespace
@@ -212,11 +222,11 @@ const CommandSpec& ComponentsCommand::Spec() const
     static const CommandSpec spec = {
         "components",
         QT_TRANSLATE_NOOP("CommandTable", "List components of a category, a search or a project"),
-        QT_TRANSLATE_NOOP("CommandTable", "Without --all one page is shown. With --all --json --stream each line is one JSON document, the last one a summary or the error, and memory stays small however long the list is."),
+        QT_TRANSLATE_NOOP("CommandTable", "Without --all one page is shown. With --all --json the document is written page by page; with --stream as well each line is one JSON document, the last one a summary or the error. Memory stays small however long the list is."),
         {},
         {
             {"--category", "-c", "CODE", QT_TRANSLATE_NOOP("CommandTable", "Only components of this category and those below it")},
-            {"--keyword", "-k", "TEXT", QT_TRANSLATE_NOOP("CommandTable", "Only components that match this text")},
+            {"--keyword", "-k", "TEXT", QT_TRANSLATE_NOOP("CommandTable", "Only components that match this text"), {}, true},
             {"--project", "-p", "ID", QT_TRANSLATE_NOOP("CommandTable", "The library of this project instead of the public catalogue")},
             {"--page", "", "NUMBER", QT_TRANSLATE_NOOP("CommandTable", "Page to show, from 1; by default 1")},
             {"--page-size", "", "NUMBER", QT_TRANSLATE_NOOP("CommandTable", "Components of a page, 1 to 200; by default 20, with --all 200")},

@@ -1,5 +1,6 @@
 #include "Commands/DoctorCommand.h"
 
+#include "Commands/OriginText.h"
 #include "Commands/Texts.h"
 #include "Diagnosis/ConfigurationCheck.h"
 #include "Diagnosis/FolderCheck.h"
@@ -28,11 +29,12 @@ Finding ApplicationFolderFinding(const HostDiagnosis& diagnosis)
 {
     const QString check = QStringLiteral("folder.application");
     const auto& folder = diagnosis.applicationFolder;
-    const QString text = QStringLiteral("%1 (%2)").arg(folder.value, folder.originText);
+    const QString origin = OriginText(folder);
+    const QString text = QStringLiteral("%1 (%2)").arg(folder.value, origin);
     if (diagnosis.applicationFolderExists)
         return {check, Verdict::Good, text, QString()};
     return {check, Verdict::Fault,
-        Say(QT_TRANSLATE_NOOP("Messages", "The folder %1 (%2) does not exist.")).arg(folder.value, folder.originText),
+        Say(QT_TRANSLATE_NOOP("Messages", "The folder %1 (%2) does not exist.")).arg(folder.value, origin),
         Say(QT_TRANSLATE_NOOP("Messages", "Correct --app-dir or NUQ_APP_DIR, or install the program again."))};
 }
 
@@ -69,9 +71,9 @@ Finding TokenFinding(const HostDiagnosis& diagnosis)
             diagnosis.currentIsQa ? Say(QT_TRANSLATE_NOOP("Messages", "Set NUQ_TOKEN_QA or NUQ_TOKEN_QA_FILE."))
                                   : Say(QT_TRANSLATE_NOOP("Messages", "Set NUQ_TOKEN or NUQ_TOKEN_FILE."))};
     if (!token.reason.isEmpty())
-        return {check, Verdict::Warning, token.Text(),
+        return {check, Verdict::Warning, OriginText(token),
             Say(QT_TRANSLATE_NOOP("Messages", "Let only yourself read the file (chmod 600)."))};
-    return {check, Verdict::Good, token.Text(), QString()};
+    return {check, Verdict::Good, OriginText(token), QString()};
 }
 
 Finding LogFinding(const HostDiagnosis& diagnosis)
@@ -152,12 +154,16 @@ QString Summary(const Findings& findings)
 {
     int faults = 0;
     int warnings = 0;
+    int skipped = 0;
     for (const Finding& finding : findings) {
         faults += finding.verdict == Verdict::Fault ? 1 : 0;
         warnings += finding.verdict == Verdict::Warning ? 1 : 0;
+        skipped += finding.verdict == Verdict::Skipped ? 1 : 0;
     }
-    if (faults + warnings == 0)
+    if (faults + warnings + skipped == 0)
         return Say(QT_TRANSLATE_NOOP("Messages", "Everything is in order."));
+    if (faults + warnings == 0)
+        return Say(QT_TRANSLATE_NOOP("Messages", "What was checked is in order. Not checked: %1.")).arg(skipped);
     return Say(QT_TRANSLATE_NOOP("Messages", "Faults: %1. Warnings: %2.")).arg(faults).arg(warnings);
 }
 
@@ -180,18 +186,15 @@ void WriteFindings(Session& session, const Findings& findings)
     JsonWriter json;
     json.BeginObject();
     json.Member("checkedAt", QDateTime::currentDateTimeUtc().toString(Qt::ISODate));
-    json.Key("findings");
-    json.BeginArray(true);
-    for (const Finding& finding : findings) {
-        json.BeginObject();
-        json.Member("check", finding.check);
-        json.Member("hint", finding.hint);
-        json.Member("milliseconds", static_cast<std::int64_t>(finding.milliseconds));
-        json.Member("text", finding.text);
-        json.Member("verdict", componentlibrary::VerdictId(finding.verdict));
-        json.EndObject();
-    }
-    json.EndArray();
+    json.List("findings", findings, [](JsonWriter& list, const Finding& finding) {
+        list.BeginObject();
+        list.Member("check", finding.check);
+        list.Member("hint", finding.hint);
+        list.Member("milliseconds", static_cast<std::int64_t>(finding.milliseconds));
+        list.Member("text", finding.text);
+        list.Member("verdict", componentlibrary::VerdictId(finding.verdict));
+        list.EndObject();
+    });
     json.Member("isInOrder", !componentlibrary::HasFault(findings));
     json.Member("schema", kSchema);
     json.EndObject();

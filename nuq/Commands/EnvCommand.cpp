@@ -1,5 +1,6 @@
 #include "Commands/EnvCommand.h"
 
+#include "Commands/OriginText.h"
 #include "Commands/Texts.h"
 #include "EnvSvcs/EnvService.h"
 #include "Errors/AddressText.h"
@@ -25,7 +26,7 @@ QString Address(const std::wstring& endPoint)
 
 std::string WithOrigin(const standalone::ResolvedSetting& setting)
 {
-    return VisibleText(setting.value + QStringLiteral("  (") + setting.originText + QLatin1Char(')'));
+    return VisibleText(setting.value + QStringLiteral("  (") + OriginText(setting) + QLatin1Char(')'));
 }
 
 std::string OrNone(const QString& text)
@@ -43,7 +44,7 @@ void ShowFields(Session& session, const HostDiagnosis& diagnosis)
     fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Static files")), OrNone(Address(EnvService::GetPyxStaticEndPoint())));
     fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Structure")), OrNone(Address(EnvService::GetWabStructureEndPoint())));
     const auto& token = diagnosis.currentIsQa ? diagnosis.qaToken : diagnosis.productionToken;
-    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Sign-in")), VisibleText(token.Text()));
+    fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Sign-in")), VisibleText(OriginText(token)));
     fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Application folder")), WithOrigin(diagnosis.applicationFolder));
     fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Settings file")), VisibleText(diagnosis.settingsFile));
     fields.Add(Title(QT_TRANSLATE_NOOP("Titles", "Thumbnail folder")), VisibleText(diagnosis.thumbnailFolder));
@@ -105,6 +106,9 @@ ExitCode EnvCommand::Run(Session& session)
         WriteDocument(session, diagnosis);
     else
         ShowFields(session, diagnosis);
+    if (EnvService::GetPyxApiEndPoint().empty())
+        session.Note(Say(QT_TRANSLATE_NOOP(
+            "Messages", "This environment has no address of the interface; \"nuq doctor\" says what to mend.")));
     return ExitCode::Done;
 }
 

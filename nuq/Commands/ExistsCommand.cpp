@@ -9,6 +9,9 @@
 
 namespace nuq {
 
+using componentlibrary::ErrorInfo;
+using componentlibrary::ExistenceRequest;
+
 struct ExistsCommand::Answer
 {
     std::wstring projectId;
@@ -43,18 +46,6 @@ void ExistsCommand::Bind(OptionBinder& binder)
     binder.Text("--project", m_options.projectId);
 }
 
-bool ExistsCommand::Ask(Session& session, Answer& answer, ExitCode& code)
-{
-    const auto request = session.Catalogue().Existence(m_options.id, QString::fromStdWString(answer.projectId));
-    if (!session.Await(*request)) {
-        code = session.Fail(request->Error());
-        return false;
-    }
-    answer.exists = request->Result()->Exist;
-    answer.version = request->Result()->Version;
-    return true;
-}
-
 namespace {
 
 template <class Answers>
@@ -76,23 +67,38 @@ void WriteAnswers(Session& session, const QString& id, const Answers& answers)
     JsonWriter json;
     json.BeginObject();
     json.Member("componentId", id);
-    json.Key("projects");
-    json.BeginArray(true);
-    for (const auto& answer : answers) {
-        json.BeginObject();
-        json.Member("exists", answer.exists);
-        json.Member("projectId", answer.projectId);
-        json.Member("projectName", answer.projectName);
-        json.Member("version", answer.version);
-        json.EndObject();
-    }
-    json.EndArray();
+    json.List("projects", answers, [](JsonWriter& list, const auto& answer) {
+        list.BeginObject();
+        list.Member("exists", answer.exists);
+        list.Member("projectId", answer.projectId);
+        list.Member("projectName", answer.projectName);
+        list.Member("version", answer.version);
+        list.EndObject();
+    });
     json.Member("schema", kSchema);
     json.EndObject();
     session.WriteDocument(json);
 }
 
 } // namespace
+
+/// All at once: the queue lets as many go out together as the server is to be asked.
+ErrorInfo ExistsCommand::Ask(Session& session, std::vector<Answer>& answers) const
+{
+    std::vector<std::unique_ptr<ExistenceRequest>> requests;
+    requests.reserve(answers.size());
+    for (const Answer& answer : answers) {
+        requests.push_back(session.Catalogue().Existence(m_options.id, QString::fromStdWString(answer.projectId)));
+        requests.back()->Start();
+    }
+    for (std::size_t at = 0; at < answers.size(); ++at) {
+        if (!session.Await(*requests[at]))
+            return requests[at]->Error();
+        answers[at].exists = requests[at]->Result()->Exist;
+        answers[at].version = requests[at]->Result()->Version;
+    }
+    return ErrorInfo();
+}
 
 ExitCode ExistsCommand::Run(Session& session)
 {
@@ -106,11 +112,9 @@ ExitCode ExistsCommand::Run(Session& session)
     }
     if (answers.empty() && !m_options.projectId.isEmpty())
         answers.push_back({m_options.projectId.toStdWString(), std::wstring()}); // the service says what it knows of it
-    ExitCode code = ExitCode::Done;
-    for (Answer& answer : answers) {
-        if (!Ask(session, answer, code))
-            return code;
-    }
+    const ErrorInfo error = Ask(session, answers);
+    if (error.IsError())
+        return session.Fail(error);
     if (session.Options().json)
         WriteAnswers(session, m_options.id, answers);
     else

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "CommandLine/Command.h"
+#include "Errors/ErrorInfo.h"
 
 #include <QString>
+
+#include <vector>
 
 namespace nuq {
 
@@ -22,7 +25,7 @@ private:
     };
     struct Answer;
 
-    bool Ask(Session& session, Answer& answer, ExitCode& code);
+    componentlibrary::ErrorInfo Ask(Session& session, std::vector<Answer>& answers) const;
 
     Options m_options;
 };

@@ -13,15 +13,12 @@ void WriteProjects(Session& session, const Projects& projects)
 {
     JsonWriter json;
     json.BeginObject();
-    json.Key("projects");
-    json.BeginArray(true);
-    for (const auto& project : projects) {
-        json.BeginObject();
-        json.Member("id", project->Id);
-        json.Member("name", project->Name);
-        json.EndObject();
-    }
-    json.EndArray();
+    json.List("projects", projects, [](JsonWriter& list, const auto& project) {
+        list.BeginObject();
+        list.Member("id", project->Id);
+        list.Member("name", project->Name);
+        list.EndObject();
+    });
     json.Member("schema", kSchema);
     json.EndObject();
     session.WriteDocument(json);

@@ -1,5 +1,7 @@
 #include "Commands/RecordJson.h"
 
+#include "Components/ValueText.h"
+
 namespace nuq {
 namespace {
 
@@ -30,7 +32,44 @@ void WriteParameter(JsonWriter& json, const std::wstring& name, const tarnnuq::I
     json.Member("name", name);
     json.Member("unit", definition.Unit);
     json.Member("value", parameter.Value);
+    json.Member("valueText", componentlibrary::ValueText(parameter));
     json.Member("valueType", definition.ValueType);
+    json.EndObject();
+}
+
+void WriteThumbnails(JsonWriter& json, const tarnnuq::IDetailedProjectComponent& component)
+{
+    json.Key("thumbnails");
+    json.BeginObject();
+    for (const auto& [size, urls] : component.Thumbnails) {
+        json.Key(size);
+        WriteTexts(json, urls);
+    }
+    json.EndObject();
+}
+
+/// @param detail the same component when its details are known; they stand among the other members, sorted by name
+void WriteComponent(
+    JsonWriter& json, const tarnnuq::IProjectComponent& component, const tarnnuq::IDetailedProjectComponent* detail)
+{
+    json.BeginObject();
+    json.Member("categoryCode", component.CategoryCode);
+    json.Member("categoryId", component.CategoryId);
+    if (detail != nullptr) {
+        json.Key("familyTypeNames");
+        WriteTexts(json, detail->FamilyTypeNames);
+    }
+    json.Member("id", component.Id);
+    json.Member("name", component.Name);
+    if (detail == nullptr)
+        json.Member("publicComponentId", component.PublicComponentId);
+    json.Member("source", component.Source);
+    json.Member("status", component.Status);
+    if (detail != nullptr)
+        WriteThumbnails(json, *detail);
+    else
+        json.Member("thumbnail", component.Thumbnail);
+    json.Member("version", component.Version);
     json.EndObject();
 }
 
@@ -65,39 +104,12 @@ void WriteServiceCategory(JsonWriter& json, const tarnnuq::ICategory& category)
 
 void WriteComponent(JsonWriter& json, const tarnnuq::IProjectComponent& component)
 {
-    json.BeginObject();
-    json.Member("categoryCode", component.CategoryCode);
-    json.Member("categoryId", component.CategoryId);
-    json.Member("id", component.Id);
-    json.Member("name", component.Name);
-    json.Member("publicComponentId", component.PublicComponentId);
-    json.Member("source", component.Source);
-    json.Member("status", component.Status);
-    json.Member("thumbnail", component.Thumbnail);
-    json.Member("version", component.Version);
-    json.EndObject();
+    WriteComponent(json, component, nullptr);
 }
 
 void WriteComponentDetail(JsonWriter& json, const tarnnuq::IDetailedProjectComponent& component)
 {
-    json.BeginObject();
-    json.Member("categoryCode", component.CategoryCode);
-    json.Member("categoryId", component.CategoryId);
-    json.Key("familyTypeNames");
-    WriteTexts(json, component.FamilyTypeNames);
-    json.Member("id", component.Id);
-    json.Member("name", component.Name);
-    json.Member("source", component.Source);
-    json.Member("status", component.Status);
-    json.Key("thumbnails");
-    json.BeginObject();
-    for (const auto& [size, urls] : component.Thumbnails) {
-        json.Key(size);
-        WriteTexts(json, urls);
-    }
-    json.EndObject();
-    json.Member("version", component.Version);
-    json.EndObject();
+    WriteComponent(json, component, &component);
 }
 
 void WriteDefinition(JsonWriter& json, const tarnnuq::IParameterDefinition& definition)

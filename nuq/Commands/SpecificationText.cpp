@@ -1,6 +1,7 @@
 #include "Commands/SpecificationText.h"
 
 #include "Commands/Texts.h"
+#include "Components/ValueText.h"
 #include "Output/VisibleText.h"
 #include "Records/IParameter.h"
 #include "Records/IParameterDefinition.h"
@@ -8,9 +9,9 @@
 namespace nuq {
 namespace {
 
-std::string ValueText(const tarnnuq::IParameter& parameter)
+std::string ValueCell(const tarnnuq::IParameter& parameter)
 {
-    return parameter.IsValueSpecified ? VisibleText(parameter.Value) : std::string("-");
+    return parameter.IsValueSpecified ? VisibleText(componentlibrary::ValueText(parameter)) : std::string("-");
 }
 
 void AddParameters(Table& table, const tarnnuq::ISpecification& specification)
@@ -19,7 +20,7 @@ void AddParameters(Table& table, const tarnnuq::ISpecification& specification)
         if (parameter == nullptr)
             continue;
         const std::wstring unit = parameter->Definition ? parameter->Definition->Unit : std::wstring();
-        table.AddRow({VisibleText(specification.Name), VisibleText(name), ValueText(*parameter), VisibleText(unit)});
+        table.AddRow({VisibleText(specification.Name), VisibleText(name), ValueCell(*parameter), VisibleText(unit)});
     }
 }
 

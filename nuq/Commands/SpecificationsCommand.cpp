@@ -14,11 +14,8 @@ void WriteDocument(Session& session, const QString& componentId, const Specifica
     json.BeginObject();
     json.Member("componentId", componentId);
     json.Member("schema", kSchema);
-    json.Key("specifications");
-    json.BeginArray(true);
-    for (const auto& specification : specifications)
-        WriteSpecification(json, *specification);
-    json.EndArray();
+    json.List("specifications", specifications,
+        [](JsonWriter& list, const auto& specification) { WriteSpecification(list, *specification); });
     json.EndObject();
     session.WriteDocument(json);
 }

@@ -54,13 +54,30 @@ public:
         Put(value);
     }
 
+    /**
+     * A member that is a long list, each element on a line of its own.
+     * @param writeElement called with this writer and each element in turn
+     */
+    template <class Elements, class WriteElement>
+    void List(std::string_view name, const Elements& elements, const WriteElement& writeElement)
+    {
+        Key(name);
+        BeginArray(true);
+        for (const auto& element : elements)
+            writeElement(*this, element);
+        EndArray();
+    }
+
     /** The document so far. */
     const std::string& Buffer() const { return m_buffer; }
 
     /** Hands over the finished document with a line end behind it, and starts a new one. */
     std::string Take();
 
-    /** Drops the document but keeps its memory for the next one. */
+    /**
+     * Drops what was written so far, which the caller has passed on, but keeps its memory. Within a document it goes
+     * on where it was: that is how one that is longer than memory is written.
+     */
     void Clear();
 
     void Reserve(std::size_t bytes) { m_buffer.reserve(bytes); }

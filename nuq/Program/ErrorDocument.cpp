@@ -96,8 +96,6 @@ QStringList ErrorDetails(const ErrorInfo& error)
         lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "HTTP status: %1"), QString::number(error.httpStatus));
     if (!error.serverCode.isEmpty())
         lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "the server's code: %1"), error.serverCode);
-    if (!error.serverMessage.isEmpty())
-        lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "the server's message: %1"), error.serverMessage);
     if (!error.original.isEmpty())
         lines << Fact(QT_TRANSLATE_NOOP("ErrorDetails", "original text: %1"), error.original);
     lines << error.evidence;

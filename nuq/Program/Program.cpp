@@ -5,6 +5,7 @@
 #include "CommandLine/HelpText.h"
 #include "CommandLine/UsageError.h"
 #include "Commands/CommandList.h"
+#include "Commands/VersionCommand.h"
 #include "Language/Translations.h"
 #include "Output/VisibleText.h"
 #include "Program/ErrorDocument.h"
@@ -62,7 +63,9 @@ ExitCode ReportUsage(const QString& message, const GlobalOptions& options)
         json.EndObject();
         Print(json.Take());
     }
-    StandardError(Style()).Message(VisibleText(message + QLatin1Char(' ') + hint));
+    //: %1 is a complaint, %2 says where help is; both are whole sentences
+    const QString line = QCoreApplication::translate("Program", "%1 %2").arg(message, hint);
+    StandardError(Style()).Message(VisibleText(line));
     return ExitCode::Usage;
 }
 
@@ -77,6 +80,10 @@ ExitCode Act(const Commands& commands, const ParsedCommandLine& parsed, const Gl
 {
     if (parsed.global.wantsHelp)
         return Print(parsed.command == nullptr ? OverviewHelp(commands) : CommandHelp(*parsed.command));
+    if (parsed.global.wantsVersion && options.json) {
+        VersionCommand version;
+        return RunCommand(version, options);
+    }
     if (parsed.global.wantsVersion)
         return Print("nuq " + standalone::ProductVersion().toStdString() + "\n");
     if (parsed.command == nullptr)

@@ -122,11 +122,13 @@ void Session::Note(const QString& text)
         m_error.Line(m_error.Look().Paint(Emphasis::Quiet, VisibleText(text)));
 }
 
-void Session::PrintSentence(const QString& sentence, const QString& hint)
+void Session::PrintSentence(const QString& sentence, const QStringList& more)
 {
     m_error.Message(m_error.Look().Paint(Emphasis::Bad, VisibleText(sentence)));
-    if (!hint.isEmpty() && !m_options.quiet)
-        m_error.Line("     " + VisibleText(hint));
+    for (const QString& line : more) {
+        if (!line.isEmpty() && !m_options.quiet)
+            m_error.Line("     " + VisibleText(line));
+    }
 }
 
 ExitCode Session::Fail(const ErrorInfo& error)
@@ -145,7 +147,7 @@ ExitCode Session::Fail(const ErrorInfo& error)
 ExitCode Session::Tell(const ErrorInfo& error)
 {
     m_out.Flush();
-    PrintSentence(ErrorSentence(error), ErrorHint(error));
+    PrintSentence(ErrorSentence(error), {ServerRemark(error), ErrorHint(error)});
     if (m_options.verbosity > 0) {
         for (const QString& line : ErrorDetails(error))
             m_error.Line("     " + VisibleText(line));
@@ -163,7 +165,7 @@ ExitCode Session::Fail(ExitCode code, const char* id, const QString& sentence, c
         json.EndObject();
         WriteDocument(json);
     }
-    PrintSentence(sentence, hint);
+    PrintSentence(sentence, {hint});
     return code;
 }
 

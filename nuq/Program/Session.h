@@ -74,7 +74,7 @@ public:
     ExitCode Finish(ExitCode code);
 
 private:
-    void PrintSentence(const QString& sentence, const QString& hint);
+    void PrintSentence(const QString& sentence, const QStringList& more);
 
     const GlobalOptions m_options;
     Interruption m_interruption;

@@ -48,6 +48,14 @@
         <source>The command line cannot be understood: %1.</source>
         <translation>无法理解命令行：%1。</translation>
     </message>
+    <message>
+        <source>The option %1 takes no value.</source>
+        <translation>选项 %1 不带值。</translation>
+    </message>
+    <message>
+        <source>The option %1 needs a value. If "%2" is the value, join them with an equals sign.</source>
+        <translation>选项 %1 需要一个值。如果“%2”就是这个值，请用等号连接。</translation>
+    </message>
 </context>
 <context>
     <name>CommandTable</name>
@@ -124,8 +132,8 @@
         <translation>列出类别及其构件数量</translation>
     </message>
     <message>
-        <source>The count of a category covers its own components and those of the categories below it, each once.</source>
-        <translation>类别的数量包括它自己的构件和下级类别的构件，每个只计一次。</translation>
+        <source>The count of a category covers its own components and those of the categories below it, each once. With --keyword only the categories with matching components are listed, and those above them.</source>
+        <translation>类别的数量包括它自己的构件和下级类别的构件，每个只计一次。带 --keyword 时只列出有匹配构件的类别及其上级类别。</translation>
     </message>
     <message>
         <source>Count only components that match this text</source>
@@ -176,8 +184,8 @@
         <translation>列出类别、搜索或项目的构件</translation>
     </message>
     <message>
-        <source>Without --all one page is shown. With --all --json --stream each line is one JSON document, the last one a summary or the error, and memory stays small however long the list is.</source>
-        <translation>不带 --all 时显示一页。带 --all --json --stream 时每行是一个 JSON 文档，最后一行是汇总或错误，无论列表多长，占用的内存都很小。</translation>
+        <source>Without --all one page is shown. With --all --json the document is written page by page; with --stream as well each line is one JSON document, the last one a summary or the error. Memory stays small however long the list is.</source>
+        <translation>不带 --all 时显示一页。带 --all --json 时文档逐页写出；再带 --stream 时每行是一个 JSON 文档，最后一行是汇总或错误。无论列表多长，占用的内存都很小。</translation>
     </message>
     <message>
         <source>Only components of this category and those below it</source>
@@ -343,6 +351,10 @@
         <source>for a report</source>
         <translation>用于报告</translation>
     </message>
+    <message>
+        <source>With --keyword: list the categories without a match as well</source>
+        <translation>与 --keyword 同用：也列出没有匹配的类别</translation>
+    </message>
 </context>
 <context>
     <name>ErrorDetails</name>
@@ -361,10 +373,6 @@
     <message>
         <source>the server's code: %1</source>
         <translation>服务器的代码：%1</translation>
-    </message>
-    <message>
-        <source>the server's message: %1</source>
-        <translation>服务器的消息：%1</translation>
     </message>
     <message>
         <source>original text: %1</source>
@@ -556,6 +564,62 @@
         <source>A search: "%1" is found in %2 components</source>
         <translation>搜索：“%1”匹配 %2 个构件</translation>
     </message>
+    <message>
+        <source>No category has a component that matches "%1".</source>
+        <translation>没有类别含有与“%1”匹配的构件。</translation>
+    </message>
+    <message>
+        <source>What was checked is in order. Not checked: %1.</source>
+        <translation>已检查的各项正常。未检查：%1。</translation>
+    </message>
+    <message>
+        <source>This environment has no address of the interface; "nuq doctor" says what to mend.</source>
+        <translation>此环境没有接口地址；“nuq doctor”会说明如何修复。</translation>
+    </message>
+    <message>
+        <source>option --app-dir</source>
+        <translation>选项 --app-dir</translation>
+    </message>
+    <message>
+        <source>environment variable NUQ_APP_DIR</source>
+        <translation>环境变量 NUQ_APP_DIR</translation>
+    </message>
+    <message>
+        <source>installed share folder</source>
+        <translation>安装的共享文件夹</translation>
+    </message>
+    <message>
+        <source>option --environment</source>
+        <translation>选项 --environment</translation>
+    </message>
+    <message>
+        <source>environment variable NUQ_ENVIRONMENT</source>
+        <translation>环境变量 NUQ_ENVIRONMENT</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>environment variable %1</source>
+        <translation>环境变量 %1</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>文件 %1</translation>
+    </message>
+    <message>
+        <source>refused: %1</source>
+        <translation>被拒绝：%1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -566,6 +630,11 @@
     <message>
         <source>A command is missing.</source>
         <translation>缺少命令。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>%1 is a complaint, %2 says where help is; both are whole sentences</extracomment>
+        <translation>%1%2</translation>
     </message>
 </context>
 <context>

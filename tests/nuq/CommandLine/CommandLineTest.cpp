@@ -35,6 +35,18 @@ TEST(CommandLine, SaysWhatIsWrong)
         {{"component"}, "The command \"component\" needs ID."},
         {{"component", ""}, "ID must not be empty."},
         {{"components", "--category"}, "The option --category needs a value."},
+        {{"categories", "--keyword", "--json"},
+            "The option --keyword needs a value. If \"--json\" is the value, join them with an equals sign."},
+        {{"components", "-k", "--page=2"},
+            "The option -k needs a value. If \"--page=2\" is the value, join them with an equals sign."},
+        {{"--environment", "-q", "env"},
+            "The option --environment needs a value. If \"-q\" is the value, join them with an equals sign."},
+        {{"categories", "--tree=3"}, "The option --tree takes no value."},
+        {{"--json=false", "env"}, "The option --json takes no value."},
+        {{"env", "--environment", ""}, "--environment must not be empty."},
+        {{"env", "--app-dir", ""}, "--app-dir must not be empty."},
+        {{"components", "--project", ""}, "--project must not be empty."},
+        {{"component", "--", "-5", "--json"}, "The command \"component\" takes no further argument \"--json\"."},
         {{"components", "--page", "0"},
             "The value of --page has to be a whole number from 1 to 10000000, but it is \"0\"."},
         {{"components", "--page", "-1"},
@@ -81,7 +93,10 @@ TEST(CommandLine, LetsArgumentsAndValuesBeNamedLikeCommandsAndOptions)
     EXPECT_EQ(Complaint({"component", "env"}), "");
     EXPECT_EQ(Complaint({"components", "--keyword", "doctor"}), "");
     EXPECT_EQ(Complaint({"components", "--keyword=--json"}), "");
+    EXPECT_EQ(Complaint({"components", "--keyword", "-5"}), "");
+    EXPECT_EQ(Complaint({"components", "--keyword", ""}), "") << "an empty search is none";
     EXPECT_EQ(Complaint({"component", "--", "-5"}), "");
+    EXPECT_EQ(Complaint({"component", "--", "--tree=3"}), "");
 }
 
 TEST(CommandLine, TakesTheLastOfSeveralValues)

@@ -19,6 +19,8 @@ TEST(TextWidth, CountsColumnsNotBytes)
     EXPECT_EQ(TextWidth("é"), 1);
     EXPECT_EQ(TextWidth("└─ "), 3);
     EXPECT_EQ(TextWidth("\xff\xfe"), 2) << "damaged bytes still take room";
+    EXPECT_EQ(TextWidth("\033[1;32m水\033[0m"), 2) << "colours take none";
+    EXPECT_EQ(TextWidth("\033[1"), 0);
 }
 
 TEST(TextWidth, CutsAtWholeCharacters)
@@ -73,6 +75,15 @@ TEST(Table, ColoursTitlesOnlyWhenAsked)
     Table table({{"A"}}, Style(true));
     table.AddRow({"1"});
     EXPECT_EQ(table.Take(), "\033[1mA\033[0m\n1\n");
+}
+
+TEST(Table, AlignsCellsOfDifferentColours)
+{
+    Table table({{""}, {"CHECK"}}, Style(true));
+    table.AddRow({"\033[32m✓\033[0m", "clock"});
+    table.AddRow({"\033[2m-\033[0m", "token"});
+    table.AddRow({"", "→ mend it"});
+    EXPECT_EQ(table.Take(), "   \033[1mCHECK\033[0m\n\033[32m✓\033[0m  clock\n\033[2m-\033[0m  token\n   → mend it\n");
 }
 
 TEST(FieldList, AlignsValues)

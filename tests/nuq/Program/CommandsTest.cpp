@@ -68,6 +68,41 @@ TEST_F(CommandsTest, CategoriesAsTree)
     EXPECT_TRUE(server.Requests().at(0).target.endsWith("&keyword=a%20b"));
 }
 
+TEST_F(CommandsTest, CategoriesOfASearchAreThoseWithAMatch)
+{
+    OnData("/v3/categories", R"([
+        {"id":1,"name":"Water","code":"W","count":1},{"id":2,"name":"Pipes","code":"W.A","parentId":1,"count":0},
+        {"id":3,"name":"Pumps","code":"W.B","parentId":1,"count":1},{"id":4,"name":"Gas","code":"G","count":0}])");
+    const std::string found = "ID  CODE  NAME   COUNT\n"
+                              "1   W     Water      1\n"
+                              "3   W.B   Pumps      1\n";
+    EXPECT_EQ(OutputOf({"categories", "--keyword", "pump"}), found);
+    EXPECT_EQ(OutputOf({"categories", "--keyword", "pump", "--tree"}), "NAME      CODE  COUNT\n"
+                                                                       "Water     W         1\n"
+                                                                       "└─ Pumps  W.B       1\n");
+    EXPECT_EQ(OutputOf({"categories", "--keyword", "pump", "--all"}), "ID  CODE  NAME   COUNT\n"
+                                                                      "1   W     Water      1\n"
+                                                                      "2   W.A   Pipes      0\n"
+                                                                      "3   W.B   Pumps      1\n"
+                                                                      "4   G     Gas        0\n");
+    EXPECT_EQ(OutputOf({"categories", "--keyword", ""}), OutputOf({"categories", "--keyword", "pump", "--all"}))
+        << "empty categories belong to the catalogue";
+    EXPECT_EQ(OutputOf({"categories", "--keyword", "pump", "--service"}).find("Gas") == std::string::npos, false)
+        << "the service's list stays as it is";
+}
+
+TEST_F(CommandsTest, CategoriesSayWhyThereAreNone)
+{
+    OnData("/v3/categories", R"([{"id":1,"name":"Water","code":"W","count":0}])");
+    const NuqResult table = Run({"categories", "--keyword", "x"});
+    EXPECT_EQ(table.code, 0);
+    EXPECT_EQ(table.out, "ID  CODE  NAME  COUNT\n");
+    EXPECT_EQ(table.err, "No category has a component that matches \"x\".\n");
+    EXPECT_EQ(Run({"categories", "--keyword", "x", "--lang", "zh"}).err, "没有类别含有与“x”匹配的构件。\n");
+    EXPECT_EQ(
+        Run({"categories", "--keyword", "x", "--json"}).out, "{\"categories\":[],\"keyword\":\"x\",\"schema\":1}\n");
+}
+
 TEST_F(CommandsTest, CategoriesAsDocument)
 {
     OnData("/v3/categories", kCategories);
@@ -214,10 +249,30 @@ TEST_F(AllComponentsTest, EndsWithTheErrorWhenAPageIsMissing)
 
     const NuqResult document = Run(command);
     EXPECT_EQ(document.code, 6);
-    EXPECT_EQ(
-        document.out, "{\"code\":\"server.fault\"," + details + ",\"message\":\"" + sentence + "\",\"schema\":1}\n");
-    EXPECT_EQ(document.err,
-        "nuq: " + sentence + "\n     Try again later; if it stays so, tell the operator of the server.\n");
+    EXPECT_EQ(document.out, "{\"components\":[\n" + Component("1") + ",\n" + Component("2") +
+                                "\n],\"error\":{\"code\":\"server.fault\"," + details + ",\"message\":\"" + sentence +
+                                "\"},\"schema\":1,\"summary\":{\"changed\":false,\"count\":2,\"totalCount\":4}}\n");
+    EXPECT_EQ(document.err, "nuq: " + sentence +
+                                "\n     The server says: Out of order.\n     Try again later; if it stays so, tell the "
+                                "operator of the server.\n");
+}
+
+TEST_F(AllComponentsTest, IsAnOrdinaryErrorWhenTheFirstPageIsMissing)
+{
+    On("/v1/components?category_code=X&keyword=&page=1&page_size=2", ScriptedResponse::Status(403));
+    const NuqResult document = Run({"components", "-c", "X", "--all", "--page-size", "2", "--json"});
+    EXPECT_EQ(document.code, 4);
+    EXPECT_EQ(document.out.substr(0, 33), R"({"code":"auth.forbidden","details)");
+}
+
+TEST_F(AllComponentsTest, AsOneDocumentWithoutComponents)
+{
+    OnData("/v1/components?category_code=X&keyword=&page=1&page_size=2", R"({"totalCount":0,"list":[]})");
+    const NuqResult document = Run({"components", "-c", "X", "--all", "--page-size", "2", "--json"});
+    EXPECT_EQ(document.code, 0);
+    EXPECT_EQ(document.out,
+        "{\"components\":[],\"schema\":1,\"summary\":{\"changed\":false,\"count\":0,\"totalCount\":0}}\n");
+    EXPECT_EQ(document.err, "There are no components here.\n");
 }
 
 TEST_F(CommandsTest, OneComponent)
@@ -233,8 +288,8 @@ TEST_F(CommandsTest, OneComponent)
                                              "Status        released\n"
                                              "Family types  DN15\n"
                                              "              DN20\n"
-                                             "Thumbnails    64 px  http://127.0.0.1:PORT/static/a.png\n"
-                                             "              64 px  http://127.0.0.1:PORT/static/c.png\n"
+                                             "Thumbnails     64 px  http://127.0.0.1:PORT/static/a.png\n"
+                                             "               64 px  http://127.0.0.1:PORT/static/c.png\n"
                                              "              128 px  http://127.0.0.1:PORT/static/b.png\n");
     EXPECT_EQ(OutputOf({"component", "C1", "--json"}),
         "{\"component\":{\"categoryCode\":\"W.B\",\"categoryId\":\"3\",\"familyTypeNames\":[\"DN15\",\"DN20\"],"
@@ -258,21 +313,22 @@ TEST_F(CommandsTest, Specifications)
                {"name":"Insulated","value":" TRUE "}]},{"name":"B","parameterValues":[]}]})");
     EXPECT_EQ(OutputOf({"specifications", "C1"}), "TYPE  PARAMETER         VALUE  UNIT\n"
                                                   "A     Insulated          true\n"
-                                                  "A     Nominal diameter     50  mm\n"
+                                                  "A     Nominal diameter   DN50  mm\n"
                                                   "B     Insulated             -\n"
                                                   "B     Nominal diameter      -  mm\n");
     EXPECT_EQ(OutputOf({"specifications", "C1", "--json"}),
         "{\"componentId\":\"C1\",\"schema\":1,\"specifications\":[\n{\"name\":\"A\",\"parameters\":[\n"
         "{\"code\":\"on\",\"groupName\":\"Other\",\"id\":\"G-2\",\"isValueSpecified\":true,\"name\":\"Insulated\","
-        "\"unit\":\"\",\"value\":\"true\",\"valueType\":\"Logic\"},\n"
+        "\"unit\":\"\",\"value\":\"true\",\"valueText\":\"true\",\"valueType\":\"Logic\"},\n"
         "{\"code\":\"dn\",\"groupName\":\"Sizes\",\"id\":\"G-1\",\"isValueSpecified\":true,\"name\":\"Nominal "
         "diameter\","
-        "\"unit\":\"mm\",\"value\":\"50\",\"valueType\":\"Number\"}\n]},\n{\"name\":\"B\",\"parameters\":[\n"
+        "\"unit\":\"mm\",\"value\":\"50\",\"valueText\":\"DN50\",\"valueType\":\"Number\"}\n]},\n{\"name\":\"B\","
+        "\"parameters\":[\n"
         "{\"code\":\"on\",\"groupName\":\"Other\",\"id\":\"G-2\",\"isValueSpecified\":false,\"name\":\"Insulated\","
-        "\"unit\":\"\",\"value\":\"\",\"valueType\":\"Logic\"},\n"
+        "\"unit\":\"\",\"value\":\"\",\"valueText\":\"\",\"valueType\":\"Logic\"},\n"
         "{\"code\":\"dn\",\"groupName\":\"Sizes\",\"id\":\"G-1\",\"isValueSpecified\":false,\"name\":\"Nominal "
         "diameter\","
-        "\"unit\":\"mm\",\"value\":\"\",\"valueType\":\"Number\"}\n]}\n]}\n");
+        "\"unit\":\"mm\",\"value\":\"\",\"valueText\":\"\",\"valueType\":\"Number\"}\n]}\n]}\n");
 }
 
 TEST_F(CommandsTest, OneSpecificationIsAskedForByItsEncodedName)
@@ -282,7 +338,7 @@ TEST_F(CommandsTest, OneSpecificationIsAskedForByItsEncodedName)
             R"(,"familyType":{"name":"DN 50/65","parameterValues":[{"name":"Nominal diameter","value":"50"}]}})");
     EXPECT_EQ(OutputOf({"specifications", "C1", "--type", "DN 50/65"}), "TYPE      PARAMETER         VALUE  UNIT\n"
                                                                         "DN 50/65  Insulated             -\n"
-                                                                        "DN 50/65  Nominal diameter     50  mm\n");
+                                                                        "DN 50/65  Nominal diameter   DN50  mm\n");
 }
 
 TEST_F(CommandsTest, Properties)
@@ -333,6 +389,9 @@ TEST_F(CommandsTest, EnvironmentWithoutConnectionAndToken)
                    "Settings file       HOME/.config/tarnnuq/settings.json\n"
                    "Thumbnail folder    HOME/.cache/tarnnuq/thumbnails\n"
                    "Log file            HOME/.local/state/tarnnuq/nuq.log\n");
+    const std::string chinese = OutputOf({"env", "--lang", "zh"});
+    EXPECT_NE(chinese.find("登录            环境变量 NUQ_TOKEN\n"), std::string::npos) << chinese;
+    EXPECT_NE(chinese.find("APP  (环境变量 NUQ_APP_DIR)\n"), std::string::npos) << chinese;
     EXPECT_EQ(OutputOf({"env", "--json"}),
         "{\"api\":\"http://127.0.0.1:PORT/api\",\"applicationFolder\":\"APP\",\"environment\":\"prod\","
         "\"knownEnvironments\":[\"prod\",\"qa\"],\"logFile\":\"HOME/.local/state/tarnnuq/nuq.log\","
@@ -342,9 +401,17 @@ TEST_F(CommandsTest, EnvironmentWithoutConnectionAndToken)
     EXPECT_EQ(server.ConnectionCount(), 0);
 }
 
+TEST_F(CommandsTest, AnUnknownEnvironmentIsSaidSo)
+{
+    const NuqResult result = Run({"env", "--environment", "nowhere"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.err, "This environment has no address of the interface; \"nuq doctor\" says what to mend.\n");
+}
+
 TEST_F(CommandsTest, Version)
 {
     EXPECT_EQ(OutputOf({"--version"}), "nuq 0.1.0\n");
+    EXPECT_EQ(OutputOf({"--version", "--json"}), OutputOf({"version", "--json"}));
     EXPECT_EQ(OutputOf({"version"}).substr(0, 13), "nuq 0.1.0\nQt ");
 }
 

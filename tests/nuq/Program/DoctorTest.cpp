@@ -17,7 +17,7 @@ protected:
     DoctorTest()
     {
         OnData("/v1/components", R"({"totalCount":1,"list":[{"id":"C","thumbnail":"t.png"}]})");
-        server.On("/static/t.png", ScriptedResponse::Content(QByteArray("\x89PNG\r\n\x1a\n", 8), "image/png"));
+        server.On("/static/t.png", ScriptedResponse::Content("\x89PNG\r\n\x1a\nIEND\xae\x42\x60\x82", "image/png"));
     }
 
     void OnGoodProjects()
@@ -148,6 +148,8 @@ TEST_F(DoctorTest, ChecksFilesAndFoldersOffline)
         "service.answer=skipped service.clock=skipped static.thumbnail=skipped ");
     EXPECT_EQ(code, 0);
     EXPECT_EQ(server.ConnectionCount(), 0);
+    const std::string out = Run({"doctor", "--offline"}).out;
+    EXPECT_NE(out.find("\nWhat was checked is in order. Not checked: 7.\n"), std::string::npos) << out;
 }
 
 } // namespace

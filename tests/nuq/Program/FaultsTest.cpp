@@ -54,8 +54,10 @@ const std::vector<Fault> kFaults = {
         "You are not signed in, or your sign-in has expired.", "您尚未登录，或登录已过期。"},
     {"Forbidden", [] { return ScriptedResponse::Status(403); }, 4, "auth.forbidden",
         "You are signed in but not allowed to do this.", "您已登录，但无权进行此操作。"},
-    {"NotFound", [] { return ScriptedResponse::Status(404); }, 3, "not_found",
-        "The server has nothing under this name.", "服务器上没有这个名称的内容。"},
+    {"NotFound", [] { return ScriptedResponse::Json(R"({"code":"NOT_FOUND","message":"None here."})", 404); }, 3,
+        "not_found", "The server has nothing under this name.", "服务器上没有这个名称的内容。"},
+    {"AnotherServer", [] { return ScriptedResponse::Status(404); }, 6, "server.unexpected_status",
+        "127.0.0.1:PORT answered with the unexpected status HTTP 404.", "127.0.0.1:PORT 以意外的状态 HTTP 404 应答。"},
     {"BadRequest",
         [] { return ScriptedResponse::Json(R"({"code":"INVALID_PARAMETER","message":"No such page."})", 400); }, 6,
         "server.rejected", "127.0.0.1:PORT rejected the request: No such page.",
@@ -179,12 +181,12 @@ TEST_F(SingleFaultTest, ShowsDetailsWhenAsked)
     On("/v1/projects", ScriptedResponse::Json(R"({"code":"DENIED","message":"Not yours."})", 403));
     EXPECT_EQ(Run({"projects", "-v"}).err,
         "nuq: The projects could not be loaded. You are signed in but not allowed to do this.\n"
+        "     The server says: Not yours.\n"
         "     Ask the administrator of the project or of the service for permission.\n"
         "     code: auth.forbidden\n"
         "     address: http://127.0.0.1:PORT/api/v1/projects\n"
         "     HTTP status: 403\n"
         "     the server's code: DENIED\n"
-        "     the server's message: Not yours.\n"
         "     original text: Error transferring http://127.0.0.1:PORT/api/v1/projects - server replied: Forbidden\n"
         "     content type: application/json\n"
         "     tries: 1\n"

@@ -89,7 +89,7 @@ protected:
 
 TEST_F(PipesTest, AClosedPipeIsNoError)
 {
-    for (const char* form : {"--json --stream", ""}) {
+    for (const char* form : {"--json --stream", "--json", ""}) {
         const auto [out, err] =
             InShell(QStringLiteral("nuq components --all %1 | head -c 10 >/dev/null; echo ${PIPESTATUS[0]}")
                         .arg(QLatin1String(form)));

@@ -16,7 +16,7 @@ TEST_F(UsageTest, EndsWithTwoAndOneHelpfulLine)
                            "what is possible.\n");
     const NuqResult chinese = Run({"components", "--stream", "--lang", "zh"});
     EXPECT_EQ(chinese.code, 2);
-    EXPECT_EQ(chinese.err, "nuq: --stream 需要 --all。 “nuq --help”显示可用的命令。\n");
+    EXPECT_EQ(chinese.err, "nuq: --stream 需要 --all。“nuq --help”显示可用的命令。\n");
 }
 
 TEST_F(UsageTest, IsADocumentToo)

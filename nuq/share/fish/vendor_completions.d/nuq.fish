@@ -15,6 +15,7 @@ complete -c nuq -l environment -r -d 'Environment to work in; by default NUQ_ENV
 complete -c nuq -n __fish_use_subcommand -a tour -d 'Look around: categories, components, one component, its values'
 complete -c nuq -n __fish_use_subcommand -a categories -d 'List the categories with the number of their components'
 complete -c nuq -n '__fish_seen_subcommand_from categories' -l keyword -s k -r -d 'Count only components that match this text'
+complete -c nuq -n '__fish_seen_subcommand_from categories' -l all -s a -d 'With --keyword: list the categories without a match as well'
 complete -c nuq -n '__fish_seen_subcommand_from categories' -l tree -d 'Show the categories as a tree'
 complete -c nuq -n '__fish_seen_subcommand_from categories' -l service -d 'Ask the library\'s public category service, which knows no codes and reports no errors'
 complete -c nuq -n __fish_use_subcommand -a components -d 'List components of a category, a search or a project'
