@@ -8,6 +8,7 @@
 #include "Application/EnvironmentFiles.h"
 #include "Application/MajorText.h"
 #include "Application/ProductVersion.h"
+#include "FamilyFiles/FamilyFileFactory.h"
 #include "Logging/DebugWarnings.h"
 #include "Logging/HostLogger.h"
 #include "Logging/LogMask.h"
@@ -116,6 +117,7 @@ struct StandaloneHost::Parts
         table.paths = &thumbnails;
         table.baseConfig = &environment;
         table.wabConfig = &endPoints;
+        table.familyFiles = &familyFiles;
         return table;
     }
 
@@ -132,6 +134,7 @@ struct StandaloneHost::Parts
     CurrentEnvironment environment;
     EnvironmentFiles environmentFiles;
     DesignCloudEndPoints endPoints;
+    familyfiles::FamilyFileFactory familyFiles;
 };
 
 void StandaloneHost::Parts::LogStart(const QString& programName)
@@ -180,6 +183,11 @@ const AccountService& StandaloneHost::Accounts() const
 HostLogger& StandaloneHost::Logger()
 {
     return m_parts->logger;
+}
+
+const familyfiles::FamilyFileFactory& StandaloneHost::FamilyFiles() const
+{
+    return m_parts->familyFiles;
 }
 
 HostDiagnosis StandaloneHost::Diagnose() const

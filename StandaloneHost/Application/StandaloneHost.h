@@ -5,6 +5,10 @@
 
 #include <memory>
 
+namespace familyfiles {
+class FamilyFileFactory;
+}
+
 namespace standalone {
 
 class AccountService;
@@ -12,7 +16,7 @@ class HostLogger;
 class SettingsStore;
 
 /// A real host for running the library outside a modeller: logger, debug warnings, application service, user
-/// service, thumbnail paths and the environment managers, put into the slot table of the process.
+/// service, thumbnail paths, the environment managers and family files, put into the slot table of the process.
 ///
 /// Owns all of them. The constructor installs them; the destructor takes them out again (unless another host has
 /// been installed since) and flushes the log. The library's services keep no pointers to host objects, but they
@@ -34,6 +38,8 @@ public:
     SettingsStore& Settings();
     const AccountService& Accounts() const;
     HostLogger& Logger();
+    /// Opens family files, and tells why one was refused.
+    const familyfiles::FamilyFileFactory& FamilyFiles() const;
 
     /// What this host found and where, as it stands now; reads the token sources anew.
     HostDiagnosis Diagnose() const;

@@ -21,6 +21,9 @@ struct FamilyManifest
     static constexpr int CurrentVersion = 1;
     static constexpr std::string_view FormatName = "tarnnuq-family";
 
+    /// No more types times parameters than this.
+    static constexpr std::size_t MaximalValues = 1000000;
+
     int version = CurrentVersion;
     BilingualText name;
     /// Code of the end category that components of this family belong to.

@@ -104,14 +104,10 @@ bool IsGoodParameter(const ParameterDefinition& parameter, Reason& reason)
 
 bool HasPossibleValues(const FamilyManifest& manifest, std::size_t type, Reason& reason)
 {
-    const std::vector<Value> values = GivenValues(manifest, type);
-    for (std::size_t index = 0; index < values.size(); ++index) {
-        const ParameterDefinition& parameter = manifest.parameters[index];
-        Reason why;
-        if (!parameter.IsDriven() && !IsPossible(parameter, values[index], why)) {
-            reason = BadValueInManifest(manifest.types[type].name, why);
-            return false;
-        }
+    Reason why;
+    if (!ArePossible(manifest, GivenValues(manifest, type), why)) {
+        reason = BadValueInManifest(manifest.types[type].name, why);
+        return false;
     }
     return true;
 }
@@ -120,6 +116,10 @@ bool HasPossibleValues(const FamilyManifest& manifest, std::size_t type, Reason&
 
 bool CheckManifest(const FamilyManifest& manifest, Reason& reason)
 {
+    if (manifest.types.size() * manifest.parameters.size() > FamilyManifest::MaximalValues) {
+        reason = TooManyValues(FamilyManifest::MaximalValues);
+        return false;
+    }
     if (!HaveUniqueNames(manifest.parameters, "parameter", reason) || !HaveUniqueIds(manifest.parameters, reason) ||
         !HaveUniqueNames(manifest.types, "type", reason) ||
         !HaveUniqueNames(manifest.connectors, "connector", reason)) {

@@ -12,7 +12,8 @@ namespace familyfiles {
 ///
 /// Formulas are not looked at here, nor is the recipe. Takes time and memory in proportion to the text.
 /// @return nothing with a reason: manifest.too-large, .too-deep, .not-json, .not-a-family, .newer-version, .schema,
-///         .duplicate-member, .duplicate-id, .duplicate-name, .unknown-name, .unknown-unit, .bad-value, .bad-bounds
+///         .duplicate-member, .duplicate-id, .duplicate-name, .bad-name, .unknown-name, .unknown-unit, .bad-value,
+///         .bad-bounds, .too-many-values
 std::optional<FamilyManifest> ReadManifest(std::string_view json, Reason& reason);
 
 } // namespace familyfiles

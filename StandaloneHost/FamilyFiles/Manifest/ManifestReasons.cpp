@@ -155,6 +155,13 @@ Reason DuplicateName(std::string_view what, const std::string& name)
         "中有两个名为" + QuotedChinese(name) + "的" + chinese);
 }
 
+Reason TooManyValues(std::size_t limit)
+{
+    const std::string most = std::to_string(limit);
+    return InManifest(
+        "too-many-values", {}, "has more than " + most + " values in its types", "各族类型的取值总数超过 " + most);
+}
+
 Reason BadName(const std::string& name)
 {
     return InManifest("bad-name", name,

@@ -25,6 +25,7 @@ Reason ManifestRepeatsMember(const std::string& name);
 Reason DuplicateParameterId(const std::string& parameter, const std::string& other);
 /// @param what "parameter", "type" or "connector"
 Reason DuplicateName(std::string_view what, const std::string& name);
+Reason TooManyValues(std::size_t limit);
 Reason BadName(const std::string& name);
 Reason UnknownParameterInType(const std::string& type, const std::string& parameter);
 Reason UnknownParameterUnit(const std::string& parameter, const std::string& unit);

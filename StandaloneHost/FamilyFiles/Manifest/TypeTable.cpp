@@ -93,17 +93,23 @@ bool IsPossible(const ParameterDefinition& parameter, const Value& value, Reason
     return true;
 }
 
+bool ArePossible(const FamilyManifest& manifest, const std::vector<Value>& values, Reason& reason)
+{
+    for (std::size_t index = 0; index < values.size(); ++index) {
+        const ParameterDefinition& parameter = manifest.parameters[index];
+        if (!parameter.IsDriven() && !IsPossible(parameter, values[index], reason)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 std::optional<std::vector<Value>> ComputedValues(
     const FamilyManifest& manifest, const FormulaSet& formulas, std::size_t type, Reason& reason)
 {
     std::vector<Value> values = GivenValues(manifest, type);
-    for (std::size_t index = 0; index < values.size(); ++index) {
-        const ParameterDefinition& parameter = manifest.parameters[index];
-        if (!parameter.IsDriven() && !IsPossible(parameter, values[index], reason)) {
-            return std::nullopt;
-        }
-    }
-    return formulas.Evaluate(values, reason) ? std::optional<std::vector<Value>>(std::move(values)) : std::nullopt;
+    const bool isComputed = ArePossible(manifest, values, reason) && formulas.Evaluate(values, reason);
+    return isComputed ? std::optional<std::vector<Value>>(std::move(values)) : std::nullopt;
 }
 
 } // namespace familyfiles

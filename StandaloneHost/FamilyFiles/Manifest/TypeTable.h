@@ -23,6 +23,9 @@ std::vector<Value> GivenValues(const FamilyManifest& manifest, std::size_t type)
 /// @return false with a reason: value.wrong-type, .not-finite, .out-of-range, .not-allowed
 bool IsPossible(const ParameterDefinition& parameter, const Value& value, Reason& reason);
 
+/// Whether the values of all driving parameters are possible.
+bool ArePossible(const FamilyManifest& manifest, const std::vector<Value>& values, Reason& reason);
+
 /// All values of one type, the driven ones computed and the driving ones checked.
 std::optional<std::vector<Value>> ComputedValues(
     const FamilyManifest& manifest, const FormulaSet& formulas, std::size_t type, Reason& reason);
