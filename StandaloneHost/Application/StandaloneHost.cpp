@@ -13,6 +13,7 @@
 #include "Logging/HostLogger.h"
 #include "Logging/LogMask.h"
 #include "Paths/ThumbnailPaths.h"
+#include "Paths/UrlCache.h"
 #include "Settings/SettingsStore.h"
 #include "hostsdk/HostServices.h"
 #include "tarnnuq/NuqLogObject.h"
@@ -102,8 +103,9 @@ struct StandaloneHost::Parts
           application(options.programName, applicationFolder.value, MajorFrom(options, settings)),
           accounts(
               folders.config, settings, [spMask = logger.Mask()](const QString& token) { spMask->AddSecret(token); }),
-          thumbnails(folders.cache), environment(options.environment, settings),
-          environmentFiles(applicationFolder.value), endPoints(environmentFiles, environment.Resolved().value)
+          thumbnails(folders.cache), familyFileCache(folders.cache + QStringLiteral("/families")),
+          environment(options.environment, settings), environmentFiles(applicationFolder.value),
+          endPoints(environmentFiles, environment.Resolved().value)
     {
     }
 
@@ -131,6 +133,7 @@ struct StandaloneHost::Parts
     ApplicationService application;
     AccountService accounts;
     ThumbnailPaths thumbnails;
+    UrlCache familyFileCache;
     CurrentEnvironment environment;
     EnvironmentFiles environmentFiles;
     DesignCloudEndPoints endPoints;
@@ -188,6 +191,11 @@ HostLogger& StandaloneHost::Logger()
 const familyfiles::FamilyFileFactory& StandaloneHost::FamilyFiles() const
 {
     return m_parts->familyFiles;
+}
+
+const UrlCache& StandaloneHost::FamilyFileCache() const
+{
+    return m_parts->familyFileCache;
 }
 
 HostDiagnosis StandaloneHost::Diagnose() const

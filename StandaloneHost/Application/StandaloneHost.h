@@ -14,6 +14,7 @@ namespace standalone {
 class AccountService;
 class HostLogger;
 class SettingsStore;
+class UrlCache;
 
 /// A real host for running the library outside a modeller: logger, debug warnings, application service, user
 /// service, thumbnail paths, the environment managers and family files, put into the slot table of the process.
@@ -40,6 +41,9 @@ public:
     HostLogger& Logger();
     /// Opens family files, and tells why one was refused.
     const familyfiles::FamilyFileFactory& FamilyFiles() const;
+
+    /// Where family files that came from URLs are kept; cleaning up among the thumbnails never reaches it.
+    const UrlCache& FamilyFileCache() const;
 
     /// What this host found and where, as it stands now; reads the token sources anew.
     HostDiagnosis Diagnose() const;

@@ -11,8 +11,8 @@ namespace standalone {
 struct HostFolders
 {
     QString config; ///< Settings and stored tokens.
-    QString cache;  ///< What can be fetched again: thumbnails.
-    QString data;   ///< What the user fetched: downloaded families.
+    QString cache;  ///< What can be fetched again: thumbnails, family files as they came.
+    QString data;   ///< What the user keeps: downloaded families, documents.
     QString state;  ///< Logs and view state.
 
     /// The folders "tarnnuq" in the places that the platform reserves for the user.

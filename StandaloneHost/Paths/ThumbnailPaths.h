@@ -1,13 +1,14 @@
 #pragma once
 
+#include "Paths/UrlCache.h"
 #include "tarnnuq/PathUtils.h"
 
 #include <QString>
 
 namespace standalone {
 
-/// Says where a thumbnail lies on disk: in the folder "thumbnails" of the cache folder, in a file named by the
-/// SHA-256 of its URL, so that one URL always has the same file and no two share one.
+/// Says where a thumbnail lies on disk: in the folder "thumbnails" of the cache folder, in a file named by its URL as
+/// UrlCache names it.
 ///
 /// Immutable after construction, usable from every thread.
 class ThumbnailPaths final : public tarnnuq::PathUtils
@@ -19,15 +20,11 @@ public:
     /// The folder that holds the thumbnails, without a slash at its end.
     QString Folder() const;
 
-    /// The file for a URL, and makes its folder. When the folder cannot be made the path is returned all the
-    /// same; writing to it then fails.
-    /// @param url the URL text as the library uses it; not normalised
-    /// @param extension the file's extension with or without its dot, may be empty; only ASCII letters, digits,
-    ///        dots, '-' and '_' of it are used, so that it cannot lead out of the folder
+    /// The file for a URL, and makes its folder; see UrlCache::PathOf().
     std::wstring DoGetThumbnailDownloadFilePath(std::wstring url, std::wstring extension) const override;
 
 private:
-    QString m_folder;
+    UrlCache m_cache;
 };
 
 } // namespace standalone

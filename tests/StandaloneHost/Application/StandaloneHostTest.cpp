@@ -2,6 +2,7 @@
 
 #include "Accounts/AccountService.h"
 #include "Logging/HostLogger.h"
+#include "Paths/UrlCache.h"
 #include "Settings/SettingsStore.h"
 #include "hostsdk/HostServices.h"
 #include "support/PrintQt.h"
@@ -89,6 +90,7 @@ TEST_F(Host, AnswersTheLibrarysQuestions)
             .Path(
                 QStringLiteral("cache/thumbnails/ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad.png"))
             .toStdWString());
+    EXPECT_EQ(host.FamilyFileCache().Folder(), m_folder.Path(QStringLiteral("cache/families")));
 }
 
 TEST_F(Host, UsesTheEndPointsOfTheChosenEnvironment)
