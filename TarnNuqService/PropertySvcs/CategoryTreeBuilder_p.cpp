@@ -48,7 +48,7 @@ void SetNamePath(ICategory& category, std::initializer_list<const ICategory*> pa
 
 CategoryTreeBuilder::CategoryTreeBuilder(
     RecordList<ICategory>& categories, EndCategoryMap& endCategories, const WarningSource& source)
-    : m_categories(categories), m_endCategories(endCategories), m_source(source)
+    : m_categories(categories), m_endCategories(endCategories), m_lastKept(endCategories.end()), m_source(source)
 {
 }
 
@@ -119,7 +119,7 @@ void CategoryTreeBuilder::AppendCategory(const tarn::ITarnCategoryInfo* info, co
     const auto endCategories = info->GetSubCategories();
     pCategory->SetIsLeaf(endCategories.empty());
     if (endCategories.empty()) {
-        m_endCategories.insert_or_assign(pCategory->Code, info);
+        KeepEndCategory(pCategory->Code, info);
     }
     m_categories.push_back(pCategory);
     for (const auto& entry : BySortIndex(endCategories)) {
@@ -143,7 +143,14 @@ void CategoryTreeBuilder::AppendEndCategory(
     SetNamePath(*pEndCategory, {&discipline, &category, pEndCategory.get()});
     pEndCategory->SetIsLeaf(true);
     m_categories.push_back(pEndCategory);
-    m_endCategories.insert_or_assign(*entry.key, entry.info);
+    KeepEndCategory(*entry.key, entry.info);
+}
+
+// The keys of one level usually stand together, in this order or the other: next to the last one is the place to look
+// at first.
+void CategoryTreeBuilder::KeepEndCategory(const std::wstring& key, const tarn::ITarnCategoryInfo* info)
+{
+    m_lastKept = m_endCategories.insert_or_assign(m_lastKept, key, info);
 }
 
 } // namespace tarnnuq

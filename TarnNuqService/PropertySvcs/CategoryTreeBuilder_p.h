@@ -42,8 +42,11 @@ private:
     void AppendEndCategory(
         const HostEntry<tarn::ITarnCategoryInfo>& entry, const ICategory& discipline, const ICategory& category);
 
+    void KeepEndCategory(const std::wstring& key, const tarn::ITarnCategoryInfo* info);
+
     RecordList<ICategory>& m_categories;
     EndCategoryMap& m_endCategories;
+    EndCategoryMap::iterator m_lastKept;
     const WarningSource& m_source;
 };
 

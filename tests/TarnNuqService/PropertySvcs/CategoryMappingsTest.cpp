@@ -1,6 +1,6 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/PropertySvcs/CloudFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
+#include "support/NamedCase.h"
 
 using tarnnuq::ICategoryMapping;
 using testsupport::Describe;
@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, MappingsVersionTest,
         VersionCase{{"Empty"}, L"", "", "software_version="},
         VersionCase{{"NotEncodedBeforehand"}, L"1 &x=版", "1 &x=版", "software_version=1%20&x=%E7%89%88"},
         VersionCase{{"PlaceMarker"}, L"%2", "%2", "software_version=%252"}),
-    testsupport::NameOf<VersionCase>);
+    testsupport::RowName());
 
 TEST_F(CategoryMappingsTest, AreRecordsWhenTheReplyHasBeenHandled)
 {
@@ -168,4 +168,4 @@ INSTANTIATE_TEST_SUITE_P(Answers, MappingsFailureTest,
         FailureCase{{"Refused"}, ScriptedResponse::Json(R"({"code":401,"message":"请登录"})"),
             QStringLiteral("internal request error: custom code - , message - 请登录")},
         FailureCase{{"DataOfAnotherKind"}, ScriptedResponse::Json(R"({"code":" SUCCESS ","data":{}})"), QString()}),
-    testsupport::NameOf<FailureCase>);
+    testsupport::RowName());

@@ -2,6 +2,7 @@
 
 #include "support/FakeCategoryInfoUtils.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace testsupport {
@@ -16,6 +17,13 @@ Info& SetTexts(Info& info, const std::wstring& code, int sortIndex)
     info.code = code;
     info.name = L"name " + code;
     return info;
+}
+
+/// A code that begins with the one above it, as standards number their kinds.
+std::wstring NumberedCode(const std::wstring& above, std::size_t number)
+{
+    const std::wstring digits = std::to_wstring(number);
+    return above + std::wstring(6 - std::min<std::size_t>(6, digits.size()), L'0') + digits;
 }
 
 } // namespace
@@ -64,17 +72,21 @@ void HostLibrary::Fill(int records)
 {
     constexpr int Disciplines = 10;
     constexpr int CategoriesOfEach = 30;
-    auto nextCode = [number = 100000000]() mutable { return std::to_wstring(++number); };
     std::vector<FakeDisciplineInfo*> disciplines;
     for (; records > 0 && disciplines.size() < Disciplines; --records) {
-        disciplines.push_back(&AddDiscipline(nextCode(), -records));
+        disciplines.push_back(&AddDiscipline(NumberedCode(L"", disciplines.size()), -records));
     }
     std::vector<FakeCategoryInfo*> categories;
     for (; records > 0 && categories.size() < Disciplines * CategoriesOfEach; --records) {
-        categories.push_back(&AddCategory(*disciplines[categories.size() % Disciplines], nextCode(), -records));
+        FakeDisciplineInfo& discipline = *disciplines[categories.size() % Disciplines];
+        categories.push_back(&AddCategory(discipline, NumberedCode(discipline.code, categories.size()), -records));
     }
-    for (std::size_t next = 0; records > 0; --records, ++next) {
-        AddEndCategory(*categories[next % categories.size()], nextCode(), -records);
+    // The objects of one category lie together, as they do in a host that reads them from its files.
+    for (auto left = static_cast<int>(categories.size()); left > 0; --left) {
+        FakeCategoryInfo& category = *categories[static_cast<std::size_t>(left) - 1];
+        for (int share = (records + left - 1) / left; share > 0; --share, --records) {
+            AddEndCategory(category, NumberedCode(category.code, category.subCategories.size()), -records);
+        }
     }
 }
 

@@ -30,7 +30,7 @@ public:
     FakeCategoryInfo& MakeCategory(const std::wstring& code, int sortIndex = 0);
 
     /// Fills the library with so many records, the root not counted: ten disciplines of at most thirty categories
-    /// each, and the end categories beneath those. The sort indexes run against the keys.
+    /// each, and the end categories beneath those. Codes begin with the one above; sort indexes run with the keys.
     void Fill(int records);
 
 private:

@@ -1,7 +1,7 @@
 #include "ResponseHandlers/PagedLegendsResponseHandler.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/PropertySvcs/CloudFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
+#include "support/NamedCase.h"
 
 #include <QPointer>
 
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Values, LegendsRequestTest,
         RequestCase{{"PlaceMarkersStay"}, L"%2%6", ILegend::Plan, 20, 1, L"%1",
             "category_code=%2%6&type=0&page_size=20&page=1&software_version=%1",
             "category_code=%252%256&type=0&page_size=20&page=1&software_version=%251"}),
-    testsupport::NameOf<RequestCase>);
+    testsupport::RowName());
 
 TEST_F(LegendsFromCloudTest, AreAPageOfRecordsWhenTheReplyHasBeenHandled)
 {
@@ -271,4 +271,4 @@ INSTANTIATE_TEST_SUITE_P(Answers, LegendsFailureTest,
             QStringLiteral("internal request error: custom code - , message - ")},
         FailureCase{{"NoData"}, ScriptedResponse::Json(R"({"code":"success"})"), QString()},
         FailureCase{{"DataOfAnotherKind"}, ScriptedResponse::Json(R"({"code":"success","data":[1]})"), QString()}),
-    testsupport::NameOf<FailureCase>);
+    testsupport::RowName());

@@ -1,6 +1,6 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/PropertySvcs/PropertyServiceFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
+#include "support/NamedCase.h"
 
 using tarnnuq::ILegend;
 using testsupport::Describe;
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Files, LegendFileTest,
         FileCase{{"LooksLikeAPlaceMarker"}, L"%1\\%2", L"%2", L"%1\\%2.png"},
         FileCase{{"Blanks"}, L" a \\ b ", L" b ", L" a \\ b .png"},
         FileCase{{"Long"}, std::wstring(5000, L'x'), std::wstring(5000, L'x'), std::wstring(5000, L'x') + L".png"}),
-    testsupport::NameOf<FileCase>);
+    testsupport::RowName());
 
 TEST_P(LegendIdTest, IsReadAsADecimalNumber)
 {
@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, LegendIdTest,
         IdCase{{"Largest"}, L"9223372036854775807", 9223372036854775807},
         IdCase{{"Beyond64Bits"}, L"9223372036854775808", 0}, IdCase{{"NoNumber"}, L"abc", 0}, IdCase{{"Empty"}, L"", 0},
         IdCase{{"NumberAndLetters"}, L"12a", 0}, IdCase{{"Decimals"}, L"1.0", 0}, IdCase{{"Hexadecimal"}, L"0x10", 0}),
-    testsupport::NameOf<IdCase>);
+    testsupport::RowName());
 
 TEST_F(LegendsTest, FillsARecordWhole)
 {

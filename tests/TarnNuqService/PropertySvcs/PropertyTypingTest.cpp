@@ -1,5 +1,5 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/PropertySvcs/PropertyServiceFixture.h"
+#include "support/NamedCase.h"
 
 using testsupport::DebugWarning;
 using testsupport::FakePropertyInfo;
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers, StorageTypeTest,
         StorageCase{{"StandardCodeReference"}, 11, L"String", L"StandardCodeReference"},
         StorageCase{{"Geometry"}, 12, L"String", L"Geometry"}, StorageCase{{"Guid"}, 13, L"String", L"Guid"},
         StorageCase{{"Count"}, 14, L"String", L"Count"}),
-    testsupport::NameOf<StorageCase>);
+    testsupport::RowName());
 
 TEST_P(DisplayTypeTest, HasItsWord)
 {
@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers, DisplayTypeTest,
         DisplayCase{{"Float"}, 14, L"Float"}, DisplayCase{{"Material"}, 15, L"Material"},
         DisplayCase{{"ValueList"}, 16, L"ValueList"},
         DisplayCase{{"StandardCodeReference"}, 17, L"StandardCodeReference"}, DisplayCase{{"Count"}, 19, L"Count"}),
-    testsupport::NameOf<DisplayCase>);
+    testsupport::RowName());
 
 TEST_P(UnknownNumberTest, OfStorageIsATextAndAWarning)
 {
