@@ -1,5 +1,7 @@
-// One handling of one body, for callgrind to count: instruction-counts WHAT COUNT base|handle
-// Prints the allocations of that one call, its peak of allocated bytes and the size of the body. See run-benchmarks.
+// One handling of one body, or one call of the property service, for callgrind to count:
+// instruction-counts WHAT COUNT base|handle
+// Prints the allocations of that one call, its peak of allocated bytes and the size of the body, which is 0 when there
+// is none. See run-benchmarks.
 #include "Records/ICategory.h"
 #include "Records/ICategoryMapping.h"
 #include "Records/ICategoryProperty.h"
@@ -9,6 +11,7 @@
 #include "ResponseHandlers/ResponseHandlerRegistry.h"
 #include "support/AllocationMeter.h"
 #include "support/Bodies.h"
+#include "support/HostPasses.h"
 #include "support/MemoryReply.h"
 #include "support/QuietHost.h"
 
@@ -37,30 +40,13 @@ void HandleOnce(bench::MemoryReply& reply)
     }
 }
 
-struct Case
+/// What is counted, and what it is compared with.
+struct Work
 {
-    std::function<QByteArray(int)> body;
-    std::function<void(bench::MemoryReply&)> handle;
+    std::function<void()> base;
+    std::function<void()> handle;
+    int bytes = 0;
 };
-
-std::map<std::string, Case> Cases()
-{
-    using namespace tarnnuq;
-    using bench::Bodies;
-    return {
-        {"categories", {Bodies::Categories, HandleOnce<RecordList<ICategory>>}},
-        {"mappings", {Bodies::CategoryMappings, HandleOnce<RecordList<ICategoryMapping>>}},
-        {"component-page", {Bodies::ComponentPage, HandleOnce<RecordPage<IProjectComponent>>}},
-        {"components", {Bodies::Components, HandleOnce<RecordList<IProjectComponent>>}},
-        {"properties", {Bodies::CategoryProperty, HandleOnce<RecordPtr<ICategoryProperty>>}},
-        {"specifications",
-            {[](int count) { return Bodies::Specifications(count, 30); }, HandleOnce<RecordList<ISpecification>>}},
-        {"specification", {Bodies::Specification, HandleOnce<RecordPtr<ISpecification>>}},
-        {"legends", {Bodies::Legends, HandleOnce<RecordList<ILegend>>}},
-        {"legend-page", {Bodies::LegendPage, HandleOnce<RecordPage<ILegend>>}},
-        {"component-detail", {Bodies::DetailedComponent, HandleOnce<RecordPtr<IDetailedProjectComponent>>}},
-    };
-}
 
 void ParseOnce(const QByteArray& body)
 {
@@ -70,27 +56,71 @@ void ParseOnce(const QByteArray& body)
     }
 }
 
+template <typename T>
+Work Handling(const QByteArray& body)
+{
+    const auto reply = std::make_shared<bench::MemoryReply>(body);
+    return {[body] { ParseOnce(body); }, [reply] { HandleOnce<T>(*reply); }, body.size()};
+}
+
+Work TreeBuilding(int count)
+{
+    const auto tree = std::make_shared<bench::HostTree>(count);
+    const std::shared_ptr<tarnnuq::PropertyServiceAccess> access = tree->EmptyService();
+    return {[tree] { tree->AskForEverything(); }, [tree, access] { access->Service().Init(); }};
+}
+
+Work PropertySetReading(int count)
+{
+    const auto host = std::make_shared<bench::PropertyHost>(count);
+    const std::shared_ptr<tarnnuq::PropertyServiceAccess> access = host->Service();
+    return {[host] { host->AskForEverything(); },
+        [host, access] { access->Service().GetCategoryProperty(bench::PropertyHost::Code); }};
+}
+
+std::map<std::string, std::function<Work(int)>> Works()
+{
+    using namespace tarnnuq;
+    using bench::Bodies;
+    return {
+        {"categories", [](int count) { return Handling<RecordList<ICategory>>(Bodies::Categories(count)); }},
+        {"mappings", [](int count) { return Handling<RecordList<ICategoryMapping>>(Bodies::CategoryMappings(count)); }},
+        {"component-page",
+            [](int count) { return Handling<RecordPage<IProjectComponent>>(Bodies::ComponentPage(count)); }},
+        {"components", [](int count) { return Handling<RecordList<IProjectComponent>>(Bodies::Components(count)); }},
+        {"properties",
+            [](int count) { return Handling<RecordPtr<ICategoryProperty>>(Bodies::CategoryProperty(count)); }},
+        {"specifications",
+            [](int count) { return Handling<RecordList<ISpecification>>(Bodies::Specifications(count, 30)); }},
+        {"specification", [](int count) { return Handling<RecordPtr<ISpecification>>(Bodies::Specification(count)); }},
+        {"legends", [](int count) { return Handling<RecordList<ILegend>>(Bodies::Legends(count)); }},
+        {"legend-page", [](int count) { return Handling<RecordPage<ILegend>>(Bodies::LegendPage(count)); }},
+        {"component-detail",
+            [](int count) { return Handling<RecordPtr<IDetailedProjectComponent>>(Bodies::DetailedComponent(count)); }},
+        {"local-tree", TreeBuilding},
+        {"property-set", PropertySetReading},
+    };
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const auto cases = Cases();
-    const auto found = argc == 4 ? cases.find(argv[1]) : cases.end();
-    if (found == cases.end()) {
+    const auto works = Works();
+    const auto found = argc == 4 ? works.find(argv[1]) : works.end();
+    if (found == works.end()) {
         std::fprintf(stderr, "usage: instruction-counts WHAT COUNT base|handle\n");
         return 2;
     }
     const bench::QuietHost host;
-    const QByteArray body = found->second.body(std::atoi(argv[2]));
-    bench::MemoryReply warmUp(found->second.body(1));
-    found->second.handle(warmUp);
-    bench::MemoryReply reply(body);
-    const bool base = std::string(argv[3]) == "base";
+    found->second(1).handle(); // what is made once is not counted
+    const Work work = found->second(std::atoi(argv[2]));
+    const std::function<void()>& counted = std::string(argv[3]) == "base" ? work.base : work.handle;
     const bench::AllocationMeter meter;
     CALLGRIND_TOGGLE_COLLECT;
-    base ? ParseOnce(body) : found->second.handle(reply);
+    counted();
     CALLGRIND_TOGGLE_COLLECT;
-    std::printf("%lld %lld %d\n", meter.Allocations(), meter.PeakBytes(), body.size());
+    std::printf("%lld %lld %d\n", meter.Allocations(), meter.PeakBytes(), work.bytes);
     return 0;
 }

@@ -16,7 +16,8 @@ const std::vector<std::vector<std::string>> columnOrders{
     {"fromJson", "handler", "service", "naive", "simdjson", "rapidjson", "nlohmann"},
     {"marking", "naive"},
     {"by-value", "keys"},
-    {"one-scan", "walk", "shuffled"},
+    {"one-scan", "by-code", "walk", "shuffled", "leaf"},
+    {"getters", "service"},
     {"base", "handle"},
     {"bare", "nuq-cloud"},
 };
