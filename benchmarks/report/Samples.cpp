@@ -57,7 +57,7 @@ void ReadTimes(const std::string& path, Figures& figures)
     for (const auto& entry : document.at("benchmarks")) {
         const std::vector<std::string> name = SplitName(entry.at("name"));
         if (entry.value("run_type", "") == "iteration" && name.size() >= 3) {
-            const bool wall = name.back() == "real_time";
+            const bool wall = name.back() == "real_time" || name.back() == "manual_time";
             figures[name[0]][name[1]][std::stoi(name[2])].Add(Nanoseconds(entry, wall));
         }
     }

@@ -19,7 +19,8 @@ const std::vector<std::vector<std::string>> columnOrders{
     {"one-scan", "by-code", "walk", "shuffled", "leaf"},
     {"getters", "service"},
     {"base", "handle"},
-    {"bare", "nuq-cloud"},
+    {"bare", "nuq-cloud", "files", "bare-decoding", "images", "curl"},
+    {"load", "provider"},
 };
 
 std::vector<std::string> Columns(const std::map<std::string, BySize>& subject)
