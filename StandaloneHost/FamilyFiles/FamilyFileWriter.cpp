@@ -1,8 +1,8 @@
 #include "FamilyFiles/FamilyFileWriter.h"
 
+#include "FamilyFiles/Backend/FamilyBackend.h"
 #include "FamilyFiles/Container/ContainerReader.h"
 #include "FamilyFiles/Container/ContainerReasons.h"
-#include "FamilyFiles/Container/ContainerWriter.h"
 #include "FamilyFiles/FamilyFileReader.h"
 #include "FamilyFiles/Manifest/ManifestReader.h"
 #include "FamilyFiles/Manifest/ManifestWriter.h"
@@ -24,7 +24,8 @@ std::optional<std::string> FamilyFileWriter::Bytes(const FamilyFileContent& cont
         return std::nullopt;
     }
     entries.insert(entries.end(), content.entries.begin(), content.entries.end());
-    return WriteContainer(entries, reason);
+    const FamilyBackend* const backend = FamilyBackend::Get(reason);
+    return backend != nullptr ? backend->WriteContainer(entries, reason) : std::nullopt;
 }
 
 bool FamilyFileWriter::Write(const std::string& path, const FamilyFileContent& content, Reason& reason)

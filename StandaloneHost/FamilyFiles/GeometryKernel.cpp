@@ -1,7 +1,7 @@
 #include "FamilyFiles/GeometryKernel.h"
 
 #include "FamilyFiles/BuildProgress.h"
-#include "FamilyFiles/KernelModule.h"
+#include "FamilyFiles/ModuleLoader.h"
 
 #include <atomic>
 
@@ -33,11 +33,11 @@ const GeometryKernel* GeometryKernel::Get(Reason& reason)
         return given;
     }
     // Loaded once; a module that is missing now will not appear while the program runs.
-    static const KernelModule module = LoadKernelModule(KernelModuleFolders());
-    if (module.kernel == nullptr) {
+    static const LoadedModule module = LoadModule(ModuleFolders(), "libTarnNuqGeometry.so", "TarnNuqGeometryKernel");
+    if (module.object == nullptr) {
         reason = module.reason;
     }
-    return module.kernel;
+    return static_cast<const GeometryKernel*>(module.object);
 }
 
 } // namespace familyfiles

@@ -31,7 +31,7 @@ public:
 
     /// The kernel of this process: the one given to Use, else the one in the module libTarnNuqGeometry, which is loaded
     /// on the first call and then stays. From any thread.
-    /// @return null with a reason (kernel.missing) when there is none
+    /// @return null with a reason (module.missing) when there is none
     static const GeometryKernel* Get(Reason& reason);
 
     /// Makes @p kernel the one of this process, before it is first needed; it must live to the end. Null: back to the

@@ -9,8 +9,6 @@
 #include <string_view>
 #include <vector>
 
-struct zip;
-
 namespace familyfiles {
 
 /// The archive of a family file, read in memory. All names are good and different; what entries hold is checked when it
@@ -22,34 +20,22 @@ public:
 
     /// Opens an archive.
     /// @return null with a reason: container.not-a-container, .damaged, .encrypted, .bad-entry-name, .duplicate-entry,
-    ///         .too-many-entries
+    ///         .too-many-entries, or why no archive can be opened
     static std::unique_ptr<ContainerReader> Open(std::string bytes, Reason& reason);
 
-    ~ContainerReader();
+    virtual ~ContainerReader() = default;
     ContainerReader(const ContainerReader&) = delete;
     ContainerReader& operator=(const ContainerReader&) = delete;
 
     /// In the archive's order.
-    const std::vector<std::string>& Names() const { return m_names; }
+    virtual const std::vector<std::string>& Names() const = 0;
 
     /// The bytes of one entry, whatever size the archive declares for it.
     /// @return nothing with a reason: container.missing-entry (.missing-manifest), .entry-too-large, .damaged
-    std::optional<std::string> Read(std::string_view name, std::size_t maximalSize, Reason& reason) const;
+    virtual std::optional<std::string> Read(std::string_view name, std::size_t maximalSize, Reason& reason) const = 0;
 
-private:
-    struct Closer
-    {
-        void operator()(zip* archive) const;
-    };
-
-    explicit ContainerReader(std::string bytes) : m_bytes(std::move(bytes)) {}
-    bool OpenArchive(Reason& reason);
-    bool ReadNames(Reason& reason);
-    bool ReadName(std::size_t index, Reason& reason);
-
-    std::string m_bytes;
-    std::unique_ptr<zip, Closer> m_archive;
-    std::vector<std::string> m_names;
+protected:
+    ContainerReader() = default;
 };
 
 } // namespace familyfiles

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "FamilyFiles/Formulas/EngineFunction.h"
 #include "FamilyFiles/Formulas/Scope.h"
 
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace familyfiles {
@@ -36,8 +36,8 @@ struct EngineProgram
     std::vector<double> arguments;
     std::vector<NumberArgument> numbers;
     std::vector<TextArgument> texts;
-    /// What the expression calls, each once.
-    std::vector<const EngineFunction*> functions;
+    /// What the expression calls, each once; the texts live for ever.
+    std::vector<std::string_view> functions;
 
     static std::string ArgumentName(std::size_t argument) { return 'a' + std::to_string(argument); }
 };

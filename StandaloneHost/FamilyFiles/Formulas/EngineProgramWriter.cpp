@@ -86,10 +86,9 @@ void EngineProgramWriter::PutArgument(std::size_t argument)
 
 void EngineProgramWriter::Call(std::string_view function)
 {
-    const EngineFunction* const called = &EngineFunction::Get(function);
-    std::vector<const EngineFunction*>& known = m_program.functions;
-    if (std::find(known.begin(), known.end(), called) == known.end()) {
-        known.push_back(called);
+    std::vector<std::string_view>& known = m_program.functions;
+    if (std::find(known.begin(), known.end(), function) == known.end()) {
+        known.push_back(function);
     }
     m_program.expression += function;
 }
@@ -175,7 +174,7 @@ void EngineProgramWriter::PutFormulaCall(Node node)
         PutChoice(first, At(first).next, At(At(first).next).next);
         return;
     default:
-        PutCall(At(node).text, first);
+        PutCall(m_nodes[node].function->name, first);
     }
 }
 

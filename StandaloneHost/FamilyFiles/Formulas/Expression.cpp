@@ -3,7 +3,6 @@
 #include "FamilyFiles/Formulas/EngineProgramWriter.h"
 #include "FamilyFiles/Formulas/FormulaCheck.h"
 #include "FamilyFiles/Formulas/FormulaEngine.h"
-#include "FamilyFiles/Formulas/FormulaFault.h"
 #include "FamilyFiles/Formulas/FormulaParser.h"
 #include "FamilyFiles/Formulas/FormulaReasons.h"
 
@@ -26,7 +25,8 @@ struct Expression::Compiled
     std::unique_ptr<FormulaEngine> engine;
 
     void TakeArguments(const Scope& values);
-    double Evaluate();
+    std::optional<double> Evaluate(Reason& reason);
+    std::optional<double> Finite(double number, Reason& reason) const;
 };
 
 namespace {
@@ -75,17 +75,16 @@ bool ParseInto(FormulaTree& tree, std::string_view text, const std::string& subj
     return FormulaParser(text, subject).Parse(tree, reason);
 }
 
-Reason ReasonOf(FormulaFault fault, const std::string& subject)
+Reason ReasonOf(FormulaState state, const std::string& subject)
 {
-    switch (fault) {
-    case FormulaFault::DivisionByZero:
+    switch (state) {
+    case FormulaState::DivisionByZero:
         return DivisionByZeroInFormula(subject);
-    case FormulaFault::Overflow:
+    case FormulaState::Overflow:
         return OverflowInFormula(subject);
-    case FormulaFault::NotANumber:
-        break;
+    default:
+        return NotANumberInFormula(subject);
     }
-    return NotANumberInFormula(subject);
 }
 
 const std::string& TextOf(const EngineProgram::TextArgument& argument, const Scope& values)
@@ -110,15 +109,32 @@ void Expression::Compiled::TakeArguments(const Scope& values)
     }
 }
 
-double Expression::Compiled::Evaluate()
+std::optional<double> Expression::Compiled::Evaluate(Reason& reason)
 {
     if (program.expression.empty()) {
-        return program.arguments[program.result];
+        return Finite(program.arguments[program.result], reason);
     }
     if (!engine) {
-        engine = std::make_unique<FormulaEngine>(program, program.arguments);
+        engine = FormulaEngine::Make(program, program.arguments, subject, reason);
     }
-    return engine->Value();
+    if (!engine) {
+        return std::nullopt;
+    }
+    const FormulaOutcome outcome = engine->Evaluate();
+    if (outcome.state == FormulaState::HasValue) {
+        return outcome.value;
+    }
+    reason = ReasonOf(outcome.state, subject);
+    return std::nullopt;
+}
+
+std::optional<double> Expression::Compiled::Finite(double number, Reason& reason) const
+{
+    if (!std::isfinite(number)) {
+        reason = OverflowInFormula(subject);
+        return std::nullopt;
+    }
+    return number;
 }
 
 Expression::Expression(std::unique_ptr<Compiled> compiled) : m_compiled(std::move(compiled)) {}
@@ -178,19 +194,8 @@ const std::vector<Scope::Slot>& Expression::Uses() const
 
 std::optional<double> Expression::Number(const Scope& values, Reason& reason) const
 {
-    try {
-        m_compiled->TakeArguments(values);
-        const double number = m_compiled->Evaluate();
-        if (std::isfinite(number)) {
-            return number;
-        }
-        reason = OverflowInFormula(m_compiled->subject);
-    } catch (FormulaFault fault) {
-        reason = ReasonOf(fault, m_compiled->subject);
-    } catch (const mu::ParserError&) {
-        reason = FormulaTooLong(m_compiled->subject);
-    }
-    return std::nullopt;
+    m_compiled->TakeArguments(values);
+    return m_compiled->Evaluate(reason);
 }
 
 std::optional<std::string> Expression::Text(const Scope& values, Reason& reason) const

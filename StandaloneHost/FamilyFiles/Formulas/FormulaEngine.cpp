@@ -1,35 +1,22 @@
 #include "FamilyFiles/Formulas/FormulaEngine.h"
 
-#include <string>
+#include "FamilyFiles/Backend/FamilyBackend.h"
+#include "FamilyFiles/Formulas/FormulaReasons.h"
 
 namespace familyfiles {
 
-FormulaEngine::FormulaEngine(const EngineProgram& program, std::vector<double>& arguments)
+std::unique_ptr<FormulaEngine> FormulaEngine::Make(
+    const EngineProgram& program, std::vector<double>& arguments, const std::string& subject, Reason& reason)
 {
-    FormulaEngine::InitCharSets();
-    // What can be worked out beforehand would be worked out in branches that are never taken, too.
-    EnableOptimizer(false);
-    for (std::size_t argument = 0; argument < arguments.size(); ++argument) {
-        DefineVar(EngineProgram::ArgumentName(argument), &arguments[argument]);
+    const FamilyBackend* const backend = FamilyBackend::Get(reason);
+    if (backend == nullptr) {
+        return nullptr;
     }
-    for (const EngineFunction* const function : program.functions) {
-        const std::string name(function->name);
-        if (function->one != nullptr) {
-            DefineFun(name, function->one, false);
-        } else if (function->two != nullptr) {
-            DefineFun(name, function->two, false);
-        } else {
-            DefineFun(name, function->many, false);
-        }
+    std::unique_ptr<FormulaEngine> engine = backend->MakeEngine(program, arguments);
+    if (engine == nullptr) {
+        reason = FormulaTooLong(subject);
     }
-    SetExpr(program.expression);
-}
-
-void FormulaEngine::InitCharSets()
-{
-    DefineNameChars("0123456789abcdefghijklmnopqrstuvwxyz");
-    DefineOprtChars("+-*?:");
-    DefineInfixOprtChars("-");
+    return engine;
 }
 
 } // namespace familyfiles

@@ -1,33 +1,35 @@
 #pragma once
 
 #include "FamilyFiles/Formulas/EngineProgram.h"
+#include "FamilyFiles/Formulas/FormulaOutcome.h"
+#include "FamilyFiles/Reason.h"
 
-#include <muParserBase.h>
+#include <memory>
 #include <vector>
 
 namespace familyfiles {
 
-/// muParser with the few words that one formula needs. Its own functions, constants and operators are left out: theirs
-/// give infinities without a word, and making them takes longer than working out the formula.
-class FormulaEngine final : public mu::ParserBase
+/// What works a formula out.
+class FormulaEngine
 {
 public:
     /// @param arguments stay where they are as long as the engine is used; their values may change between evaluations
-    /// @throws mu::ParserError when the engine does not take the expression
-    FormulaEngine(const EngineProgram& program, std::vector<double>& arguments);
+    /// @return null with a reason: formula.too-long, or why there are no engines
+    static std::unique_ptr<FormulaEngine> Make(
+        const EngineProgram& program, std::vector<double>& arguments, const std::string& subject, Reason& reason);
 
-    /// The expression's value for the present arguments, which may be infinite or not a number.
-    /// @throws FormulaFault out of the functions
-    double Value() const { return Eval(); }
+    virtual ~FormulaEngine() = default;
+    FormulaEngine(const FormulaEngine&) = delete;
+    FormulaEngine& operator=(const FormulaEngine&) = delete;
 
-    /// The longest expression that the engine takes.
+    /// For the present arguments.
+    virtual FormulaOutcome Evaluate() const = 0;
+
+    /// The longest expression that an engine takes.
     static constexpr std::size_t MaximalLength = 19000;
 
 protected:
-    void InitCharSets() override;
-    void InitFun() override {}
-    void InitConst() override {}
-    void InitOprt() override {}
+    FormulaEngine() = default;
 };
 
 } // namespace familyfiles

@@ -2,7 +2,8 @@
 
 namespace familyfiles {
 
-/// Why a formula has no value. Thrown inside the engine and caught by Expression; it does not leave this folder.
+/// Why a formula has no value. Thrown by the functions through the engine that calls them; it does not leave this
+/// folder.
 enum class FormulaFault
 {
     DivisionByZero,

@@ -1,4 +1,4 @@
-#include "FamilyFiles/Container/ContainerWriter.h"
+#include "FamilyFiles/Backend/ZipContainerWriter.h"
 
 #include "FamilyFiles/Container/ContainerReasons.h"
 #include "FamilyFiles/Container/EntryName.h"
@@ -120,7 +120,7 @@ std::optional<std::string> Pack(const std::vector<ContainerEntry>& entries, zip_
 
 } // namespace
 
-std::optional<std::string> WriteContainer(const std::vector<ContainerEntry>& entries, Reason& reason)
+std::optional<std::string> WriteZipContainer(const std::vector<ContainerEntry>& entries, Reason& reason)
 {
     if (!AreGood(entries, reason)) {
         return std::nullopt;

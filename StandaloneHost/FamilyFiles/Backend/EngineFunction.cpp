@@ -1,6 +1,6 @@
-#include "FamilyFiles/Formulas/EngineFunction.h"
+#include "FamilyFiles/Backend/EngineFunction.h"
 
-#include "FamilyFiles/Formulas/FormulaFault.h"
+#include "FamilyFiles/Backend/FormulaFault.h"
 
 #include <algorithm>
 #include <cmath>
