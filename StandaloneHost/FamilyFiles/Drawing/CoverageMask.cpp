@@ -1,5 +1,6 @@
 #include "FamilyFiles/Drawing/CoverageMask.h"
 
+#include "FamilyFiles/Drawing/RowSpan.h"
 #include "FamilyFiles/Recipe/LoopSamples.h"
 
 #include <algorithm>
@@ -17,11 +18,6 @@ constexpr double kBeside = 2;
 
 /// Empty cells around the component.
 constexpr int kMargin = 4;
-
-double Side(const Point2& a, const Point2& b, double u, double v)
-{
-    return (b.u - a.u) * (v - a.v) - (b.v - a.v) * (u - a.u);
-}
 
 } // namespace
 
@@ -47,25 +43,23 @@ CoverageMask::CoverageMask(const TriangleMesh& mesh, const ViewPlane& plane)
     }
 }
 
-/// Takes every cell whose centre lies in the triangle or on its border, whichever way it runs.
+/// Takes every cell whose centre lies in the triangle or on its border. Triangles seen from behind are left out: the
+/// front covers the same place.
 void CoverageMask::Fill(const Point2& a, const Point2& b, const Point2& c)
 {
-    const double area = Side(a, b, c.u, c.v);
-    if (area <= 0) {
-        return; // seen from behind: the front covers the same place
+    if ((b.u - a.u) * (c.v - a.v) <= (b.v - a.v) * (c.u - a.u)) {
+        return;
     }
     const int rowBegin = std::max(0, static_cast<int>(std::ceil(std::min({a.v, b.v, c.v}) - 0.5)));
     const int rowEnd = std::min(m_rows - 1, static_cast<int>(std::floor(std::max({a.v, b.v, c.v}) - 0.5)));
-    const int columnBegin = std::max(0, static_cast<int>(std::ceil(std::min({a.u, b.u, c.u}) - 0.5)));
-    const int columnEnd = std::min(m_columns - 1, static_cast<int>(std::floor(std::max({a.u, b.u, c.u}) - 0.5)));
     for (int row = rowBegin; row <= rowEnd; ++row) {
-        const double v = row + 0.5;
-        std::uint8_t* cells = m_cells.data() + static_cast<std::ptrdiff_t>(row) * m_columns;
-        for (int column = columnBegin; column <= columnEnd; ++column) {
-            const double u = column + 0.5;
-            if (Side(a, b, u, v) >= 0 && Side(b, c, u, v) >= 0 && Side(c, a, u, v) >= 0) {
-                cells[column] = 1;
-            }
+        RowSpan span(m_columns);
+        span.Cut(a.u, a.v, b.u, b.v, row + 0.5, false);
+        span.Cut(b.u, b.v, c.u, c.v, row + 0.5, false);
+        span.Cut(c.u, c.v, a.u, a.v, row + 0.5, false);
+        if (span.First() <= span.Last()) {
+            const auto begin = m_cells.begin() + static_cast<std::ptrdiff_t>(row) * m_columns;
+            std::fill(begin + span.First(), begin + span.Last() + 1, std::uint8_t{1});
         }
     }
 }

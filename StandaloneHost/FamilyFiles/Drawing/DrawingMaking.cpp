@@ -70,7 +70,8 @@ public:
         for (const LineSegment& piece : lines.visible) {
             Sort(piece, m_mask, m_diagonal * kLookLength, seen);
         }
-        Add(LineStyle::Hidden, Chained(WithoutThose(lines.hidden, lines.visible, m_diagonal * kGrid)));
+        const std::vector<LineSegment> hidden = TakeOutlines(lines.hidden, seen);
+        Add(LineStyle::Hidden, Chained(WithoutThose(hidden, lines.visible, m_diagonal * kGrid)));
         Add(LineStyle::Centre, CentreLinePaths(centreLines, m_plane, m_diagonal));
         Add(LineStyle::Visible, Chained(seen.inside));
         Add(LineStyle::Outline, Chained(seen.outline));
@@ -82,6 +83,16 @@ private:
     std::vector<std::vector<Point2>> Chained(const std::vector<LineSegment>& pieces) const
     {
         return ChainLines(pieces, m_diagonal * kGrid, m_diagonal * kTolerance);
+    }
+
+    /// Where a piece runs along the background nothing can hide it: the kernel's algorithm errs there now and then.
+    std::vector<LineSegment> TakeOutlines(const std::vector<LineSegment>& hidden, SeenLines& seen) const
+    {
+        std::vector<LineSegment> rest;
+        for (const LineSegment& piece : hidden) {
+            (m_mask.IsAtBackground(piece.from, piece.to) ? seen.outline : rest).push_back(piece);
+        }
+        return rest;
     }
 
     void Add(LineStyle style, const std::vector<std::vector<Point2>>& lines)

@@ -1,22 +1,26 @@
 #pragma once
 
-#include "FamilyFiles/Recipe/Point3.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace familyfiles {
 
-/// What is known of a sample of a picture: how near the surface is, where it looks, what it is made of.
+/// What is known of a sample of a picture: how near the surface is, where it looks, what it is made of. Small, because
+/// a large picture has millions of them.
 struct PixelSample
 {
-    float depth = 0;   ///< towards the viewer, in samples; only valid where covered
-    float normalX = 0; ///< in the viewer's system: right, up, towards the viewer
-    float normalY = 0;
-    float normalZ = 0;
-    std::uint16_t material = 0;
-    bool isCovered = false;
+    static constexpr std::uint16_t kBackground = 0xFFFF;
+    static constexpr float kNormalScale = 32767;
+
+    float depth = -1e30F; ///< towards the viewer, in samples
+    /// Of unit length times kNormalScale, in the viewer's system: right, up, towards the viewer.
+    std::int16_t normalX = 0;
+    std::int16_t normalY = 0;
+    std::int16_t normalZ = 0;
+    std::uint16_t material = kBackground;
+
+    bool IsCovered() const { return material != kBackground; }
 };
 
 /// The samples of a square picture, row by row from the top.

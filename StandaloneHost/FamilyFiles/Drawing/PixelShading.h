@@ -8,7 +8,7 @@
 
 namespace familyfiles {
 
-/// Colours of samples: light on the materials, darker where surfaces meet or come near each other.
+/// Colours of samples: light on the materials, darker along edges and where surfaces come near each other.
 class PixelShading
 {
 public:
@@ -20,10 +20,13 @@ public:
     /// Red, green and blue of a covered sample, from 0 to 1.
     std::array<double, 3> ColourAt(int column, int row) const;
 
+    /// How much of the light from around is kept off a covered sample by nearer surfaces beside it, from 0 to 1.
+    /// Changes slowly from sample to sample: once a pixel is enough.
+    double NearnessAt(int column, int row) const;
+
 private:
     std::array<double, 3> Lit(const PixelSample& sample) const;
     double EdgeAt(int column, int row) const;
-    double NearnessAt(int column, int row) const;
     const PixelSample* Neighbour(int column, int row) const;
 
     const PixelBuffers& m_buffers;

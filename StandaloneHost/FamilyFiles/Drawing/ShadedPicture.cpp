@@ -31,26 +31,44 @@ int ToByte(double value)
 }
 
 /// The mean of a pixel's samples; those that are not covered make it transparent.
+class PixelMean
+{
+public:
+    void Add(const std::array<double, 3>& colour)
+    {
+        for (std::size_t i = 0; i < m_sum.size(); ++i) {
+            m_sum[i] += colour[i];
+        }
+        ++m_covered;
+    }
+
+    QRgb Value(int samples, double factor) const
+    {
+        const double part = factor / m_covered;
+        return qRgba(ToByte(m_sum[0] * part), ToByte(m_sum[1] * part), ToByte(m_sum[2] * part),
+            ToByte(static_cast<double>(m_covered) / samples));
+    }
+
+private:
+    std::array<double, 3> m_sum{};
+    int m_covered = 0;
+};
+
+/// @param left, top the pixel's first sample
 QRgb PixelOf(const PixelBuffers& buffers, const PixelShading& shading, int left, int top, int samples)
 {
-    std::array<double, 3> sum{};
-    int covered = 0;
+    PixelMean mean;
+    double nearness = -1;
     for (int row = top; row < top + samples; ++row) {
         for (int column = left; column < left + samples; ++column) {
-            if (buffers.At(column, row).isCovered) {
-                const std::array<double, 3> colour = shading.ColourAt(column, row);
-                for (std::size_t i = 0; i < sum.size(); ++i) {
-                    sum[i] += colour[i];
-                }
-                ++covered;
+            if (!buffers.At(column, row).IsCovered()) {
+                continue;
             }
+            mean.Add(shading.ColourAt(column, row));
+            nearness = nearness < 0 ? shading.NearnessAt(column, row) : nearness;
         }
     }
-    if (covered == 0) {
-        return qRgba(0, 0, 0, 0);
-    }
-    return qRgba(ToByte(sum[0] / covered), ToByte(sum[1] / covered), ToByte(sum[2] / covered),
-        ToByte(static_cast<double>(covered) / (samples * samples)));
+    return nearness < 0 ? qRgba(0, 0, 0, 0) : mean.Value(samples * samples, 1 - nearness);
 }
 
 } // namespace

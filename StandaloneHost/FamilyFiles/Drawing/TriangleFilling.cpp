@@ -1,5 +1,7 @@
 #include "FamilyFiles/Drawing/TriangleFilling.h"
 
+#include "FamilyFiles/Drawing/RowSpan.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -70,7 +72,7 @@ void FitInto(std::vector<SeenVertex>& vertices, int side)
     }
 }
 
-/// Fills the samples whose centres lie in the triangle; edges are shared by the rule "not left of it".
+/// Fills the samples whose centres lie in a triangle or on its border.
 class Filler
 {
 public:
@@ -87,10 +89,12 @@ public:
         const int side = m_buffers.side;
         const int rowBegin = std::max(0, static_cast<int>(std::ceil(std::min({m_a.y, m_b.y, m_c.y}) - 0.5)));
         const int rowEnd = std::min(side - 1, static_cast<int>(std::floor(std::max({m_a.y, m_b.y, m_c.y}) - 0.5)));
-        const int columnBegin = std::max(0, static_cast<int>(std::ceil(std::min({m_a.x, m_b.x, m_c.x}) - 0.5)));
-        const int columnEnd = std::min(side - 1, static_cast<int>(std::floor(std::max({m_a.x, m_b.x, m_c.x}) - 0.5)));
         for (int row = rowBegin; row <= rowEnd; ++row) {
-            for (int column = columnBegin; column <= columnEnd; ++column) {
+            RowSpan span(side);
+            span.Cut(m_a.x, m_a.y, m_b.x, m_b.y, row + 0.5, true);
+            span.Cut(m_b.x, m_b.y, m_c.x, m_c.y, row + 0.5, true);
+            span.Cut(m_c.x, m_c.y, m_a.x, m_a.y, row + 0.5, true);
+            for (int column = span.First(); column <= span.Last(); ++column) {
                 Visit(column, row);
             }
         }
@@ -109,18 +113,15 @@ private:
         const double a = Side(m_b, m_c, x, y) / m_area;
         const double b = Side(m_c, m_a, x, y) / m_area;
         const double c = 1 - a - b;
-        if (a < 0 || b < 0 || c < 0) {
-            return;
-        }
         const auto depth = static_cast<float>(a * m_a.depth + b * m_b.depth + c * m_c.depth);
         PixelSample& sample = m_buffers.At(column, row);
-        if (sample.isCovered && sample.depth >= depth) {
+        if (sample.depth >= depth) {
             return;
         }
         const Point3 normal = m_a.normal * a + m_b.normal * b + m_c.normal * c;
-        const double length = std::max(Length(normal), 1e-12);
-        sample = {depth, static_cast<float>(normal.x / length), static_cast<float>(normal.y / length),
-            static_cast<float>(normal.z / length), m_material, true};
+        const double scale = PixelSample::kNormalScale / std::max(Length(normal), 1e-12);
+        const auto rounded = [scale](double part) { return static_cast<std::int16_t>(std::lround(part * scale)); };
+        sample = {depth, rounded(normal.x), rounded(normal.y), rounded(normal.z), m_material};
     }
 
     PixelBuffers& m_buffers;

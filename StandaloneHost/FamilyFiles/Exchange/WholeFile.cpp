@@ -1,9 +1,9 @@
 #include "FamilyFiles/Exchange/WholeFile.h"
 
 #include "FamilyFiles/Geometry/GeometryFailure.h"
+#include "Paths/ReplaceFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -35,10 +35,9 @@ QByteArray WriteAside(const std::string& suffix, const std::function<bool(const 
 
 void WriteWhole(const std::string& path, const QByteArray& content)
 {
-    QSaveFile file(QString::fromStdString(path));
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
-    if (!isWritten || !file.commit()) {
-        Refuse(file.errorString());
+    const QString why = standalone::ReplaceFile(QString::fromStdString(path), content);
+    if (!why.isEmpty()) {
+        Refuse(why);
     }
 }
 

@@ -58,7 +58,7 @@ bool LiesInBox(const BRepAdaptor_Curve& curve, const EdgeFilter& filter)
 bool RunsAlong(const BRepAdaptor_Curve& curve, const EdgeFilter& filter)
 {
     return curve.GetType() == GeomAbs_Line &&
-           curve.Line().Direction().Crossed(ToDirection(filter.direction).XYZ()).XYZ().Modulus() < kParallel;
+           ToVector(filter.direction).Crossed(curve.Line().Direction()).Magnitude() < kParallel;
 }
 
 bool IsChosen(const BRepAdaptor_Curve& curve, const EdgeFilter& filter)

@@ -50,6 +50,7 @@ void Collect(const TopoDS_Shape& edges, std::vector<LineSegment>& segments)
 ProjectedLines ProjectLines(const OcctSolid& solid, DrawingView view)
 {
     solid.EnsureTriangles();
+    solid.EnsureSmoothEdges();
     const Handle(HLRBRep_PolyAlgo) algorithm = new HLRBRep_PolyAlgo;
     algorithm->Load(solid.Shape());
     algorithm->Projector(HLRAlgo_Projector(AxesOf(view)));

@@ -5,6 +5,7 @@
 
 #include <BRepBndLib.hxx>
 #include <BRepGProp.hxx>
+#include <BRepLib.hxx>
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <Bnd_Box.hxx>
 #include <GProp_GProps.hxx>
@@ -20,6 +21,9 @@ constexpr double kDeflection = 1e-3;
 
 /// Radians between neighbouring triangles' normals.
 constexpr double kAngle = 0.2;
+
+/// Radians up to which two faces join smoothly.
+constexpr double kSmooth = 1e-3;
 
 } // namespace
 
@@ -45,6 +49,7 @@ std::array<double, 6> OcctSolid::Box() const
         Bnd_Box box;
         BRepBndLib::AddOptimal(m_shape, box, false, false);
         std::array<double, 6> corners{};
+        box.SetGap(0);
         box.Get(corners[0], corners[1], corners[2], corners[3], corners[4], corners[5]);
         m_box = corners;
     }
@@ -66,6 +71,14 @@ void OcctSolid::EnsureTriangles() const
         throw GeometryFailure("geometry.failed", "The surface cannot be cut into triangles", "表面无法三角化");
     }
     m_hasTriangles = true;
+}
+
+void OcctSolid::EnsureSmoothEdges() const
+{
+    if (!m_hasSmoothEdges) {
+        BRepLib::EncodeRegularity(m_shape, kSmooth);
+        m_hasSmoothEdges = true;
+    }
 }
 
 double OcctSolid::Diagonal() const

@@ -38,6 +38,9 @@ public:
     /// Makes the triangles of the shape's faces if they are not there yet. Throws GeometryFailure or Standard_Failure.
     void EnsureTriangles() const;
 
+    /// Marks the edges along which faces join smoothly if they are not marked yet: drawings leave them out.
+    void EnsureSmoothEdges() const;
+
     /// Distance between the opposite corners of the box that the kernel finds quickly; mm.
     double Diagonal() const;
 
@@ -48,6 +51,7 @@ private:
     mutable std::optional<double> m_area;
     mutable std::optional<std::array<double, 6>> m_box;
     mutable bool m_hasTriangles = false;
+    mutable bool m_hasSmoothEdges = false;
 };
 
 } // namespace familyfiles

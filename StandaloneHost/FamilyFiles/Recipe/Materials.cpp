@@ -17,8 +17,8 @@ struct NamedMaterial
 
 // Colours are chosen to stay apart from white as well as from a dark window.
 constexpr std::array<NamedMaterial, 28> kMaterials{{
-    {"steel", {{158, 166, 176}, 0.45, 36, 0.6}},
-    {"castIron", {{96, 104, 114}, 0.20, 14, 0.3}},
+    {"steel", {{164, 172, 182}, 0.45, 36, 0.6}},
+    {"castIron", {{112, 120, 131}, 0.22, 14, 0.3}},
     {"stainless", {{190, 197, 204}, 0.70, 60, 0.8}},
     {"galvanised", {{176, 186, 192}, 0.40, 24, 0.6}},
     {"aluminium", {{198, 203, 208}, 0.45, 30, 0.7}},
