@@ -57,6 +57,11 @@ bool IsInsideName(std::string_view text, std::size_t position)
     return position < text.size() && ContinuesName(Utf8At(text, position).code);
 }
 
+bool IsPlainQuote(char32_t code)
+{
+    return code == U'"' || code == U'\uFF02';
+}
+
 /// How many bytes of the longest unit's symbol stand at the position; 0 when there is none.
 std::size_t SymbolSize(std::string_view text, std::size_t position)
 {
@@ -164,9 +169,11 @@ bool FormulaLexer::Number(FormulaToken& token, Reason& reason)
 
 bool FormulaLexer::Enclosed(TokenType type, char32_t close, FormulaToken& token, Reason& reason)
 {
+    // Typographic quotation marks are text between plain ones.
+    const bool isPlain = IsPlainQuote(Utf8At(m_text, m_position).code);
     const std::size_t first = m_position + At(m_position).size;
     for (std::size_t end = first; end < m_text.size(); end += At(end).size) {
-        if (At(end).code == close) {
+        if (At(end).code == close && (!isPlain || IsPlainQuote(Utf8At(m_text, end).code))) {
             token.type = type;
             token.text = m_text.substr(first, end - first);
             m_position = end + At(end).size;

@@ -210,7 +210,15 @@ std::optional<Value> FormulaSet::ValueOf(std::size_t variable, const Expression&
         return text ? std::optional<Value>(std::move(*text)) : std::nullopt;
     }
     const std::optional<double> number = formula.Number(m_working, reason);
-    return number ? NumberAs(m_variables[variable], m_units[variable]->FromBase(*number), reason) : std::nullopt;
+    if (!number) {
+        return std::nullopt;
+    }
+    const double inUnit = m_units[variable]->FromBase(*number);
+    if (!std::isfinite(inUnit)) {
+        reason = OverflowInFormula(m_variables[variable].name);
+        return std::nullopt;
+    }
+    return NumberAs(m_variables[variable], inUnit, reason);
 }
 
 bool FormulaSet::Evaluate(std::vector<Value>& values, Reason& reason) const
