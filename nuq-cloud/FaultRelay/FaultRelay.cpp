@@ -1,6 +1,7 @@
 #include "FaultRelay/FaultRelay.h"
 
 #include "FaultRelay/RelayConnection.h"
+#include "Text/ListenFault.h"
 
 #include <QHostAddress>
 #include <QHostInfo>
@@ -64,8 +65,7 @@ QString FaultRelay::Error() const
     if (isListening()) {
         return QString();
     }
-    return serverError() == QAbstractSocket::UnknownSocketError ? QStringLiteral("The host is not known")
-                                                                : errorString();
+    return serverError() == QAbstractSocket::UnknownSocketError ? QString::fromLatin1(kUnknownHost) : errorString();
 }
 
 void FaultRelay::Drain()

@@ -1,5 +1,7 @@
 #include "FaultRelay/FaultRelayThread.h"
 
+#include "Text/ListenFault.h"
+
 #include <QElapsedTimer>
 #include <stdexcept>
 #include <utility>
@@ -36,9 +38,7 @@ FaultRelayThread::FaultRelayThread(FaultRelaySettings settings, std::shared_ptr<
     });
     if (!error.isEmpty()) {
         EndThread();
-        throw std::runtime_error("Cannot listen on " + settings.host.toStdString() + " port " +
-                                 std::to_string(settings.port) + ": " + error.toStdString() +
-                                 ". Choose another --port, or --port 0 for a free one.");
+        throw std::runtime_error(ListenFault(settings.host.toStdString(), settings.port, error.toStdString()));
     }
 }
 

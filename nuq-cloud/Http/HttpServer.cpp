@@ -5,6 +5,7 @@
 #include "Http/SocketStream.h"
 #include "Http/WakeUpPipe.h"
 #include "Text/JsonWriter.h"
+#include "Text/ListenFault.h"
 #include "Text/Utf8.h"
 
 #include <atomic>
@@ -213,9 +214,7 @@ public:
         errno = 0; // stays so when the name cannot be resolved
         const int bound = port == 0 ? bind_to_any_port(host) : (bind_to_port(host, port) ? port : -1);
         if (bound <= 0) {
-            throw std::runtime_error("Cannot listen on " + host + " port " + std::to_string(port) + ": " +
-                                     (errno == 0 ? "The host is not known" : std::strerror(errno)) +
-                                     ". Choose another --port, or --port 0 for a free one.");
+            throw std::runtime_error(ListenFault(host, port, errno == 0 ? kUnknownHost : std::strerror(errno)));
         }
         ::listen(svr_sock_, kBacklog); // httplib asks for 5, and a lost connection attempt costs a second
         m_thread = std::thread([this] { listen_after_bind(); });

@@ -120,6 +120,21 @@ UsageError Unexpected(const CLI::App& app)
                       " (see nuq-cloud --help)");
 }
 
+/// CLI11 tells numbers of arguments; people know values and options.
+UsageError Mismatch(const CLI::ArgumentMismatch& error)
+{
+    const std::string text = error.what();
+    const std::string name = text.substr(0, text.find_first_of(": "));
+    std::string what = " needs a value";
+    if (text.find("At Most") != std::string::npos) {
+        what = " may be given only once";
+    } else if (text.find("flag override") != std::string::npos) {
+        what = " takes no value";
+    }
+    const char* const dashes = name[0] == '-' ? "" : "--";
+    return UsageError("The option " + (dashes + name) + what + " (see nuq-cloud --help)");
+}
+
 std::string FirstLine(std::string text)
 {
     return text.substr(0, text.find('\n'));
@@ -140,13 +155,14 @@ void DeclareServing(CLI::App& app, Options& options, RawOptions& raw)
     app.add_option("--access-log", options.accessLog, "Where one line a request goes; - is standard error")
         ->type_name("FILE")
         ->capture_default_str();
-    app.add_flag("-q,--quiet", options.quiet, "Write nothing on standard error but errors");
+    app.add_flag("-q,--quiet", options.quiet, "Write nothing on standard error but errors")->disable_flag_override();
 }
 
 void DeclareTls(CLI::App& app, Options& options, RawOptions& raw)
 {
     auto* const tls = app.add_flag("--tls", options.tls,
         "Speak TLS, by default with a certificate made at start; --write-config keeps it beside the environment files");
+    tls->disable_flag_override();
     auto* const certificate =
         app.add_option("--tls-cert", options.tlsCertificate, "Certificate (PEM)")->type_name("FILE")->needs(tls);
     auto* const key = app.add_option("--tls-key", options.tlsKey, "Its private key (PEM)")->type_name("FILE");
@@ -165,7 +181,8 @@ void DeclareFaults(CLI::App& app, Options& options, RawOptions& raw)
         ->type_name("SPEC")
         ->allow_extra_args(false);
     app.add_option("--scenario", raw.scenario, "Make faults by the rules of this file")->type_name("FILE");
-    app.add_flag("--allow-faults", options.faultsAllowed, "Obey X-Nuq-Fault; --fault and --scenario imply it");
+    app.add_flag("--allow-faults", options.faultsAllowed, "Obey X-Nuq-Fault; --fault and --scenario imply it")
+        ->disable_flag_override();
     auto* const record =
         app.add_option("--record", options.recordFile, "Write every exchange to FILE")->type_name("FILE");
     app.add_option("--replay", options.replayFile, "Answer from a recording, without a library")
@@ -192,6 +209,8 @@ std::optional<Options> ParseOptions(int argc, const char* const* argv)
         return std::nullopt;
     } catch (const CLI::ExtrasError&) {
         throw Unexpected(app);
+    } catch (const CLI::ArgumentMismatch& error) {
+        throw Mismatch(error);
     } catch (const CLI::ParseError& error) {
         throw UsageError(FirstLine(error.what()) + " (see nuq-cloud --help)");
     }

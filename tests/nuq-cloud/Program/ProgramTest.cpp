@@ -170,7 +170,10 @@ TEST_F(Program, RefusesBadOptionsWithOneLineAndStatus2)
         {QStringLiteral("--port"), QStringLiteral("65536")}, 2, "--port: Value 65536 not in range 0 to 65535" + help);
     ExpectRefused(
         {QStringLiteral("--port"), QStringLiteral("-1")}, 2, "--port: Value -1 not in range 0 to 65535" + help);
-    ExpectRefused({QStringLiteral("--port")}, 2, "--port: 1 required N:INT in [0 - 65535] missing" + help);
+    ExpectRefused({QStringLiteral("--port")}, 2, "The option --port needs a value" + help);
+    ExpectRefused(
+        {QStringLiteral("--port=1"), QStringLiteral("--port=2")}, 2, "The option --port may be given only once" + help);
+    ExpectRefused({QStringLiteral("--quiet=3")}, 2, "The option --quiet takes no value" + help);
     ExpectRefused({QStringLiteral("--tls-fault"), QStringLiteral("expired")}, 2, "--tls-fault requires --tls" + help);
     ExpectRefused({QStringLiteral("--fault"), QStringLiteral("bogus")}, 2,
         "There is no fault \"bogus\"; nuq-cloud --help lists those there are.");
@@ -200,8 +203,8 @@ TEST_F(Program, SaysThatTheHostIsNotKnown)
 {
     for (const QStringList& further : {QStringList(), QStringList(QStringLiteral("--allow-faults"))}) {
         ExpectRefused(Arguments({QStringLiteral("--host"), QStringLiteral("no such host")}) + further, 1,
-            "Cannot listen on no such host port 0: The host is not known. Choose another --port, or --port 0 for a "
-            "free one.");
+            "Cannot listen on no such host port 0: The host is not known. Name an address of this computer with "
+            "--host.");
     }
 }
 
