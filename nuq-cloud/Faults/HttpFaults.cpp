@@ -165,8 +165,9 @@ std::optional<HttpReply> OddJson(const Fault& fault)
 /// The reply's own copy of its body.
 std::string& OwnBody(HttpReply& reply)
 {
-    if (reply.prepared) {
-        reply.body = reply.prepared->plain;
+    if (reply.generated || reply.prepared) {
+        reply.body = WholeBody(reply);
+        reply.generated.reset();
         reply.prepared.reset();
     }
     return reply.body;

@@ -20,7 +20,7 @@ struct PreparedBody
 struct GeneratedBody
 {
     std::size_t length = 0;
-    /// Writes up to `count` bytes that begin at `offset`; called with growing offsets.
+    /// Makes up to `count` bytes that begin at `offset`; called with growing offsets. None means that it failed.
     std::function<std::string(std::size_t offset, std::size_t count)> make;
 };
 
@@ -36,5 +36,8 @@ struct HttpReply
     std::shared_ptr<const GeneratedBody> generated; ///< takes the place of both when set
     bool compressible = true;                       ///< false for pictures and for parts of files
 };
+
+/// The bytes of the body, wherever they come from; shorter than promised where making them failed.
+std::string WholeBody(const HttpReply& reply);
 
 } // namespace nuqcloud

@@ -1,5 +1,6 @@
 #include "Http/HttpServer.h"
 
+#include "Http/EntityTags.h"
 #include "Http/Gzip.h"
 #include "Http/RequestIds.h"
 #include "Http/SocketStream.h"
@@ -80,6 +81,16 @@ HttpRequest ToHttpRequest(const httplib::Request& request)
     return out;
 }
 
+/// The gzip form is another sequence of bytes: a client must not take parts of the two for one file, nor check it by
+/// the digest of the other.
+void TagAsGzip(httplib::Response& response)
+{
+    response.headers.erase("Repr-Digest");
+    if (response.has_header("ETag")) {
+        Replace(response.headers, "ETag", GzipTag(response.get_header_value("ETag")));
+    }
+}
+
 void SetBody(const HttpReply& reply, bool acceptsGzip, httplib::Response& response)
 {
     const std::string& plain = reply.prepared ? reply.prepared->plain : reply.body;
@@ -92,6 +103,7 @@ void SetBody(const HttpReply& reply, bool acceptsGzip, httplib::Response& respon
         return;
     }
     response.set_header("Content-Encoding", "gzip");
+    TagAsGzip(response);
     response.body = std::move(gzip);
 }
 

@@ -2,65 +2,60 @@
 
 #include "Api/Envelope.h"
 #include "Http/ByteRange.h"
+#include "Http/EntityTags.h"
+#include "Server/ServedFile.h"
+#include "Sessions/Base64.h"
 
 #include <array>
-#include <cstdio>
-#include <fstream>
-#include <optional>
+#include <memory>
+#include <stdexcept>
 #include <utility>
 
 namespace nuqcloud {
 namespace {
+
+constexpr std::size_t kLargestInMemory = 1U << 20U;
 
 bool IsPlainName(const std::string& segment)
 {
     return !segment.empty() && segment != "." && segment != ".." && segment.find('/') == std::string::npos;
 }
 
-std::optional<std::filesystem::path> FileFor(
-    const std::filesystem::path& folder, const std::vector<std::string>& segments)
+std::filesystem::path PathOf(const std::filesystem::path& folder, const std::vector<std::string>& segments)
 {
     std::filesystem::path path = folder;
     for (const std::string& segment : segments) {
         if (!IsPlainName(segment)) {
-            return std::nullopt;
+            return {};
         }
         path /= segment;
     }
-    std::error_code error;
-    return std::filesystem::is_regular_file(path, error) ? std::optional(path) : std::nullopt;
+    return path;
 }
 
-std::string EntityTag(const std::filesystem::path& file)
+std::string EntityTag(const std::string& digest)
 {
-    const auto size = static_cast<unsigned long long>(std::filesystem::file_size(file));
-    const auto time =
-        static_cast<unsigned long long>(std::filesystem::last_write_time(file).time_since_epoch().count());
-    char text[48];
-    std::snprintf(text, sizeof(text), "\"%llx-%llx\"", size, time);
-    return text;
+    constexpr char kDigits[] = "0123456789abcdef";
+    std::string tag = "\"";
+    for (const char byte : digest) {
+        const auto value = static_cast<unsigned char>(byte);
+        tag += kDigits[value >> 4U];
+        tag += kDigits[value & 15U];
+    }
+    return tag + '"';
 }
 
 std::string ContentType(const std::filesystem::path& file)
 {
-    static constexpr std::array<std::pair<const char*, const char*>, 5> kTypes = {{{".png", "image/png"},
-        {".svg", "image/svg+xml"}, {".jpg", "image/jpeg"}, {".json", "application/json"}, {".txt", "text/plain"}}};
+    static constexpr std::array<std::pair<const char*, const char*>, 6> kTypes = {
+        {{".nuqfamily", "application/vnd.tarnnuq.family+zip"}, {".png", "image/png"}, {".svg", "image/svg+xml"},
+            {".jpg", "image/jpeg"}, {".json", "application/json"}, {".txt", "text/plain"}}};
     for (const auto& [extension, type] : kTypes) {
         if (file.extension() == extension) {
             return type;
         }
     }
     return "application/octet-stream";
-}
-
-std::string ReadPart(const std::filesystem::path& file, const ByteRange& range)
-{
-    std::ifstream stream(file, std::ios::binary);
-    stream.seekg(static_cast<std::streamoff>(range.first));
-    std::string bytes(range.length, '\0');
-    stream.read(bytes.data(), static_cast<std::streamsize>(range.length));
-    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(stream.gcount(), 0)));
-    return bytes;
 }
 
 HttpReply MissingFile()
@@ -83,24 +78,51 @@ HttpReply NotModified(const std::string& tag)
     return reply;
 }
 
-HttpReply SendFile(const HttpRequest& request, const std::filesystem::path& file, const std::string& tag)
+/// A range is part of a reply to GET alone, and only of the file that the client has the beginning of.
+ByteRange WantedRange(const HttpRequest& request, const std::string& tag, std::size_t size)
 {
-    const std::size_t size = std::filesystem::file_size(file);
-    const bool rangeHolds = request.ifRange.empty() || request.ifRange == tag;
-    const ByteRange range = ChooseRange(rangeHolds ? request.range : std::string(), size);
-    if (range.kind == ByteRange::Kind::Unsatisfiable) {
-        return UnsatisfiableRange(size);
+    const bool rangeHolds = request.method == "GET" && (request.ifRange.empty() || request.ifRange == tag);
+    return ChooseRange(rangeHolds ? request.range : std::string(), size);
+}
+
+void SetBody(HttpReply& reply, std::shared_ptr<const ServedFile> file, const ByteRange& range)
+{
+    if (range.length <= kLargestInMemory) {
+        reply.body = file->Read(range.first, range.length);
+        if (reply.body.size() != range.length) {
+            throw std::runtime_error("a file changed while it was read");
+        }
+        return;
     }
+    reply.compressible = false;
+    reply.generated = std::make_shared<const GeneratedBody>(
+        GeneratedBody{range.length, [file = std::move(file), first = range.first](std::size_t offset,
+                                        std::size_t count) { return file->Read(first + offset, count); }});
+}
+
+void AddContentRange(HttpReply& reply, const ByteRange& range, std::size_t size)
+{
+    reply.status = 206;
+    reply.headers.emplace_back("Content-Range", "bytes " + std::to_string(range.first) + '-' +
+                                                    std::to_string(range.first + range.length - 1) + '/' +
+                                                    std::to_string(size));
+}
+
+HttpReply Send(std::shared_ptr<const ServedFile> file, const ByteRange& range, std::string type, const std::string& tag,
+    const std::string& digest)
+{
+    const std::size_t size = file->Size();
     HttpReply reply;
-    reply.contentType = ContentType(file);
-    reply.body = ReadPart(file, range);
-    reply.headers = {{"ETag", tag}, {"Accept-Ranges", "bytes"}};
+    reply.contentType = std::move(type);
     reply.compressible = reply.contentType == "image/svg+xml" && range.kind == ByteRange::Kind::Whole;
+    reply.headers = {
+        {"ETag", tag}, {"Accept-Ranges", "bytes"}, {"Repr-Digest", "sha-256=:" + EncodeBase64(digest) + ':'}};
+    if (reply.contentType == "image/svg+xml") {
+        reply.headers.emplace_back("Vary", "Accept-Encoding");
+    }
+    SetBody(reply, std::move(file), range);
     if (range.kind == ByteRange::Kind::Part) {
-        reply.status = 206;
-        reply.headers.emplace_back("Content-Range", "bytes " + std::to_string(range.first) + '-' +
-                                                        std::to_string(range.first + range.length - 1) + '/' +
-                                                        std::to_string(size));
+        AddContentRange(reply, range, size);
     }
     return reply;
 }
@@ -111,15 +133,19 @@ StaticFiles::StaticFiles(std::filesystem::path folder) : m_folder(std::move(fold
 
 HttpReply StaticFiles::Get(const HttpRequest& request, const std::vector<std::string>& segments) const
 {
-    const auto file = FileFor(m_folder, segments);
+    const std::filesystem::path path = PathOf(m_folder, segments);
+    const std::shared_ptr<const ServedFile> file = path.empty() ? nullptr : ServedFile::Open(path);
     if (!file) {
         return MissingFile();
     }
-    const std::string tag = EntityTag(*file);
-    if (request.ifNoneMatch == tag || request.ifNoneMatch == "*") {
-        return NotModified(tag);
+    const std::string digest = m_digests.Of(path.native(), *file);
+    const std::string tag = EntityTag(digest);
+    if (const std::string known = KnownTag(request.ifNoneMatch, tag); !known.empty()) {
+        return NotModified(known);
     }
-    return SendFile(request, *file, tag);
+    const ByteRange range = WantedRange(request, tag, file->Size());
+    return range.kind == ByteRange::Kind::Unsatisfiable ? UnsatisfiableRange(file->Size())
+                                                        : Send(file, range, ContentType(path), tag, digest);
 }
 
 } // namespace nuqcloud

@@ -2,6 +2,7 @@
 
 #include "Http/HttpReply.h"
 #include "Http/HttpRequest.h"
+#include "Server/ContentDigests.h"
 
 #include <filesystem>
 #include <string>
@@ -9,7 +10,9 @@
 
 namespace nuqcloud {
 
-/// Serves the files below one folder, with entity tags and single byte ranges. Safe for many threads.
+/// Serves the files below one folder: pictures, drawings and family files. Each reply carries an entity tag, so that an
+/// unchanged file is not sent again, and the digest of the whole file; a download that was cut goes on where it ended
+/// by a byte range. Safe for many threads.
 class StaticFiles
 {
 public:
@@ -20,6 +23,7 @@ public:
 
 private:
     const std::filesystem::path m_folder;
+    mutable ContentDigests m_digests;
 };
 
 } // namespace nuqcloud

@@ -33,18 +33,6 @@ Json RequestJson(const HttpRequest& request)
         {"ifRange", AsText(request.ifRange)}, {"ifNoneMatch", AsText(request.ifNoneMatch)}};
 }
 
-std::string WholeBody(const HttpReply& reply)
-{
-    if (!reply.generated) {
-        return reply.prepared ? reply.prepared->plain : reply.body;
-    }
-    std::string body;
-    while (body.size() < reply.generated->length) {
-        body += reply.generated->make(body.size(), reply.generated->length - body.size());
-    }
-    return body;
-}
-
 Json ReplyJson(const HttpRequest& request, const HttpReply& reply)
 {
     Json out = {{"status", reply.status}, {"contentType", reply.contentType},

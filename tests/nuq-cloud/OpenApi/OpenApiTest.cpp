@@ -171,7 +171,7 @@ protected:
         values["Range"] = "bytes=0-9";
         values["If-Range"] = whole.Header("ETag");
         Ask(operation, values, 206);
-        values["If-Range"] = "\"0-0\"";
+        values["If-Range"] = "\"another\"";
         Ask(operation, values, 200);
     }
 
