@@ -99,8 +99,8 @@ void CheckSize(const ShapePlan& plan)
     std::vector<BodySize> sizes;
     for (const PlanStep& step : plan.steps) {
         sizes.push_back(std::visit(SizeOf(sizes), step.shape));
-        WantAtMost(sizes.back().faces, RecipeLimits::MostFaces, step, "too many faces", "面数过多");
         WantAtMost(sizes.back().copies, RecipeLimits::MostCopies, step, "too many copies", "副本过多");
+        WantAtMost(sizes.back().faces, RecipeLimits::MostFaces, step, "too many faces", "面数过多");
     }
 }
 
