@@ -16,7 +16,8 @@ if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
     if(TARNNUQ_CCACHE)
         # Without these a second checkout or build folder never finds what the first one compiled.
         set(CMAKE_CXX_COMPILER_LAUNCHER
-            "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1 "${TARNNUQ_CCACHE}")
+            "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+            CCACHE_SLOPPINESS=pch_defines,time_macros "${TARNNUQ_CCACHE}")
     endif()
 endif()
 

@@ -75,6 +75,27 @@ function(tarnnuq_add_program name)
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
 endfunction()
 
+# tarnnuq_speed_up_test_build(<target>)
+#
+# Half of what a test's source costs the compiler is GoogleTest's headers and the optimisation of code that runs once.
+# Other configurations and compilers do without, so that a source that does not include what it uses is still found.
+function(tarnnuq_speed_up_test_build target)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU" OR NOT CMAKE_BUILD_TYPE STREQUAL "Release")
+        return()
+    endif()
+    # ccache looks into the precompiled header only when the preprocessor names it.
+    target_compile_options(${target} PRIVATE -O1 -fpch-preprocess)
+    if(NOT TARGET TestHeaders)
+        file(WRITE "${PROJECT_BINARY_DIR}/tests/TestHeaders.cpp" "int main() {}\n")
+        add_executable(TestHeaders EXCLUDE_FROM_ALL "${PROJECT_BINARY_DIR}/tests/TestHeaders.cpp")
+        set_target_properties(TestHeaders PROPERTIES CXX_EXTENSIONS OFF)
+        target_compile_options(TestHeaders PRIVATE -O1 -fpch-preprocess)
+        target_link_libraries(TestHeaders PRIVATE Qt5::Core GTest::gmock tarnnuq_build_settings)
+        target_precompile_headers(TestHeaders PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM TestHeaders)
+endfunction()
+
 # tarnnuq_add_test(NAME <name> SOURCES ... LIBRARIES ... [ENVIRONMENT k=v ...] [TIMEOUT s])
 #
 # A GoogleTest program with the project's own main; each test case is a process of its own, because the
@@ -88,6 +109,7 @@ function(tarnnuq_add_test)
     set_target_properties(${arg_NAME} PROPERTIES CXX_EXTENSIONS OFF
         RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
     target_link_libraries(${arg_NAME} PRIVATE ${arg_LIBRARIES} TestMain GTest::gmock tarnnuq_build_settings)
+    tarnnuq_speed_up_test_build(${arg_NAME})
     gtest_discover_tests(${arg_NAME}
         TEST_PREFIX "${arg_NAME}."
         DISCOVERY_MODE PRE_TEST
