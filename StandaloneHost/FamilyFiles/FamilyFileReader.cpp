@@ -5,8 +5,9 @@
 #include "FamilyFiles/Manifest/ManifestReader.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 #include <utility>
 
 namespace familyfiles {
@@ -16,16 +17,18 @@ namespace {
 /// More than the limit is read of a file that grows: the size asked for beforehand proves nothing.
 std::optional<std::string> FileBytes(const std::string& path, Reason& reason)
 {
-    const QString name = QString::fromStdString(path);
-    if (!QFileInfo::exists(name)) {
+    std::error_code fault;
+    const std::filesystem::file_status status = std::filesystem::status(std::filesystem::u8path(path), fault);
+    if (status.type() == std::filesystem::file_type::not_found) {
         reason = FileNotFound(path);
         return std::nullopt;
     }
-    if (!QFileInfo(name).isFile()) {
-        reason = FileUnreadable(path, "it is no file");
+    // Opening a pipe would wait for a writer.
+    if (status.type() != std::filesystem::file_type::regular) {
+        reason = FileUnreadable(path, fault ? fault.message() : "it is no file");
         return std::nullopt;
     }
-    QFile file(name);
+    QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly)) {
         reason = FileUnreadable(path, file.errorString().toStdString());
         return std::nullopt;

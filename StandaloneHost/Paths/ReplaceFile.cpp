@@ -1,15 +1,22 @@
 #include "Paths/ReplaceFile.h"
 
 #include <QSaveFile>
+#include <cerrno>
 
 namespace standalone {
 
 namespace {
 
-/// QSaveFile forgets a failed write of its own buffer and would commit a cut file: hence the flush.
-bool WriteAll(QSaveFile& file, const QByteArray& content)
+/// QSaveFile forgets a failed write of its own buffer and would commit a cut file: hence the flush. It forgets why,
+/// too.
+QString WriteAll(QSaveFile& file, const QByteArray& content)
 {
-    return file.write(content) == content.size() && file.flush();
+    errno = 0;
+    if (file.write(content) == content.size() && file.flush()) {
+        return {};
+    }
+    const int code = errno;
+    return file.error() == QFileDevice::NoError && code != 0 ? qt_error_string(code) : file.errorString();
 }
 
 } // namespace
@@ -19,10 +26,11 @@ QString ReplaceFile(
 {
     QSaveFile file(path);
     const bool isOpen = file.open(QIODevice::WriteOnly) && (!permissions || file.setPermissions(*permissions));
-    if (isOpen && WriteAll(file, content) && file.commit()) {
-        return {};
+    if (!isOpen) {
+        return file.errorString();
     }
-    return file.errorString();
+    const QString fault = WriteAll(file, content);
+    return fault.isEmpty() && !file.commit() ? file.errorString() : fault;
 }
 
 } // namespace standalone

@@ -38,6 +38,11 @@ std::unique_ptr<ContainerReader> ZipContainerReader::Open(std::string bytes, Rea
 
 bool ZipContainerReader::OpenArchive(Reason& reason)
 {
+    // An empty file is an archive without entries to the library.
+    if (m_bytes.empty()) {
+        reason = NotAContainer();
+        return false;
+    }
     zip_error_t error;
     zip_error_init(&error);
     zip_source_t* const source = zip_source_buffer_create(m_bytes.data(), m_bytes.size(), 0, &error);

@@ -97,6 +97,13 @@ Reason ReasonOfFailure(std::string_view json, const Reader& reader)
     return ManifestBreaksSchema(NameAlong(document, path), PathText(path), keyword != nullptr ? keyword : "type");
 }
 
+/// Some editors write it.
+std::string_view WithoutByteOrderMark(std::string_view text)
+{
+    constexpr std::string_view mark("\xEF\xBB\xBF", 3);
+    return text.substr(0, mark.size()) == mark ? text.substr(mark.size()) : text;
+}
+
 /// A name that one object has twice; empty when there is none.
 std::string RepeatedMember(const rapidjson::Value& object)
 {
@@ -125,8 +132,14 @@ bool HasRepeatedMember(const rapidjson::Value& value, std::string& repeated)
 
 } // namespace
 
-bool ParseManifest(std::string_view json, rapidjson::Document& document, Reason& reason)
+bool ParseManifest(std::string_view text, rapidjson::Document& document, Reason& reason)
 {
+    const std::string_view json = WithoutByteOrderMark(text);
+    // The parser takes a NUL for the end and would not look behind it.
+    if (const std::size_t nul = json.find('\0'); nul != std::string_view::npos) {
+        reason = ManifestIsNoJson(json, nul);
+        return false;
+    }
     if (IsNestedDeeperThan(json, MaximalNesting)) {
         reason = ManifestTooDeep(MaximalNesting);
         return false;

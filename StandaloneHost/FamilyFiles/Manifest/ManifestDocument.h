@@ -9,6 +9,6 @@ namespace familyfiles {
 
 /// Parses a manifest into @p document and holds it to the schema on the way.
 /// @return false with a reason: manifest.too-deep, .not-json, .not-a-family, .newer-version, .schema, .duplicate-member
-bool ParseManifest(std::string_view json, rapidjson::Document& document, Reason& reason);
+bool ParseManifest(std::string_view text, rapidjson::Document& document, Reason& reason);
 
 } // namespace familyfiles
