@@ -133,7 +133,7 @@ constexpr std::array<ErrorKind, 37> kKinds = {{
         QT_TRANSLATE_NOOP("ErrorTexts", "This is a fault of the program: please report it with the details.")},
 }};
 
-constexpr std::array<const char*, 11> kFailures = {{
+constexpr std::array<const char*, 12> kFailures = {{
     QT_TRANSLATE_NOOP("ErrorTexts", "The categories could not be loaded."),
     QT_TRANSLATE_NOOP("ErrorTexts", "The components could not be loaded."),
     QT_TRANSLATE_NOOP("ErrorTexts", "The component could not be loaded."),
@@ -145,6 +145,7 @@ constexpr std::array<const char*, 11> kFailures = {{
     QT_TRANSLATE_NOOP("ErrorTexts", "The legends could not be loaded."),
     QT_TRANSLATE_NOOP("ErrorTexts", "The category mappings could not be loaded."),
     QT_TRANSLATE_NOOP("ErrorTexts", "The service could not be checked."),
+    QT_TRANSLATE_NOOP("ErrorTexts", "The picture could not be loaded."),
 }};
 // clang-format on
 

@@ -15,7 +15,8 @@ enum class Operation
     LoadProjects,
     LoadLegends,
     LoadMappings,
-    CheckService
+    CheckService,
+    LoadThumbnail
 };
 
 } // namespace componentlibrary

@@ -92,6 +92,21 @@ std::optional<qint64> RequestBase::ClockDifference() const
     return m_answeredAt.secsTo(serverTime);
 }
 
+QByteArray RequestBase::Accept() const
+{
+    return "application/json";
+}
+
+bool RequestBase::IsAuthorized() const
+{
+    return true;
+}
+
+qint64 RequestBase::LargestBody() const
+{
+    return m_channel->Settings().largestBody;
+}
+
 ErrorInfo RequestBase::MakeError(ErrorCode code) const
 {
     ErrorInfo error;
@@ -126,11 +141,11 @@ QNetworkRequest RequestBase::MakeNetworkRequest() const
     const ChannelSettings& settings = m_channel->Settings();
     QNetworkRequest request(m_target);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setRawHeader("Accept", "application/json");
+    request.setRawHeader("Accept", Accept());
     request.setRawHeader("Accept-Language", settings.language);
     if (AsksPlainly())
         request.setRawHeader("Accept-Encoding", "identity");
-    if (IsSameOrigin(m_address, m_target))
+    if (IsAuthorized() && IsSameOrigin(m_address, m_target))
         settings.authorize(request);
     return request;
 }
@@ -159,7 +174,7 @@ void RequestBase::Connect(QNetworkReply* reply)
 
 void RequestBase::OnProgress(qint64 received, qint64 total)
 {
-    if (received > m_channel->Settings().largestBody || total > m_channel->Settings().largestBody)
+    if (received > LargestBody() || total > LargestBody())
         return End(MakeError(ErrorCode::ServerTooLarge));
     m_received = received;
     emit Progressed(received, total);

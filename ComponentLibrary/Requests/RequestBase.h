@@ -92,6 +92,15 @@ protected:
      */
     virtual ErrorInfo ReadResult(QNetworkReply& reply) = 0;
 
+    /** The media types that are asked for. */
+    virtual QByteArray Accept() const;
+
+    /** Whether the request carries the Authorization header. */
+    virtual bool IsAuthorized() const;
+
+    /** Bytes of the longest body, after decompression, that is taken. */
+    virtual qint64 LargestBody() const;
+
     /** An error of this request with its address, operation and number of tries filled in. */
     ErrorInfo MakeError(ErrorCode code) const;
 

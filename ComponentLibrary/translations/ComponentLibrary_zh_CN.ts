@@ -555,6 +555,10 @@
         <translation>无法检查服务。</translation>
     </message>
     <message>
+        <source>The picture could not be loaded.</source>
+        <translation>无法加载图片。</translation>
+    </message>
+    <message>
         <source>The server</source>
         <translation>服务器</translation>
     </message>

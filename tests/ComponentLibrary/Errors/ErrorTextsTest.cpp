@@ -267,12 +267,12 @@ TEST(ErrorTexts, ShareNoSentenceAndNoId)
 TEST(ErrorTexts, NameWhatFailedForEveryOperation)
 {
     std::set<QString> sentences;
-    for (int operation = 0; operation <= static_cast<int>(Operation::CheckService); ++operation) {
+    for (int operation = 0; operation <= static_cast<int>(Operation::LoadThumbnail); ++operation) {
         ErrorInfo error = Example(ErrorCode::NotFound);
         error.operation = static_cast<Operation>(operation);
         EXPECT_TRUE(sentences.insert(ErrorSentence(error)).second);
     }
-    EXPECT_EQ(sentences.size(), 11u);
+    EXPECT_EQ(sentences.size(), 12u);
 }
 
 TEST(ErrorTexts, FindWordsForWhatIsNotKnown)

@@ -63,8 +63,8 @@ QByteArray PromisingPng(quint32 width, quint32 height)
 
 QByteArray PngBomb(int width, int height)
 {
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::darkBlue);
+    QImage image(width, height, QImage::Format_Grayscale8);
+    image.fill(Qt::darkGray);
     return ImageBytes(image);
 }
 
