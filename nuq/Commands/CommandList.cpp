@@ -1,5 +1,6 @@
 #include "Commands/CommandList.h"
 
+#include "Commands/CacheCommand.h"
 #include "Commands/CategoriesCommand.h"
 #include "Commands/ComponentCommand.h"
 #include "Commands/ComponentsCommand.h"
@@ -9,6 +10,7 @@
 #include "Commands/ProjectsCommand.h"
 #include "Commands/PropertiesCommand.h"
 #include "Commands/SpecificationsCommand.h"
+#include "Commands/ThumbnailCommand.h"
 #include "Commands/TourCommand.h"
 #include "Commands/VersionCommand.h"
 
@@ -21,11 +23,13 @@ Commands MakeCommands()
     commands.push_back(std::make_unique<CategoriesCommand>());
     commands.push_back(std::make_unique<ComponentsCommand>());
     commands.push_back(std::make_unique<ComponentCommand>());
+    commands.push_back(std::make_unique<ThumbnailCommand>());
     commands.push_back(std::make_unique<SpecificationsCommand>());
     commands.push_back(std::make_unique<PropertiesCommand>());
     commands.push_back(std::make_unique<ProjectsCommand>());
     commands.push_back(std::make_unique<ExistsCommand>());
     commands.push_back(std::make_unique<EnvCommand>());
+    commands.push_back(std::make_unique<CacheCommand>());
     commands.push_back(std::make_unique<DoctorCommand>());
     commands.push_back(std::make_unique<VersionCommand>());
     return commands;

@@ -355,6 +355,58 @@
         <source>With --keyword: list the categories without a match as well</source>
         <translation>与 --keyword 同用：也列出没有匹配的类别</translation>
     </message>
+    <message>
+        <source>Show how much the thumbnail cache holds, or empty it</source>
+        <translation>显示缩略图缓存的大小，或清空缓存</translation>
+    </message>
+    <message>
+        <source>The cache looks after itself: beyond its limit the pictures go first that were not used for longest. Family files are not in it.</source>
+        <translation>缓存会自行清理：超过上限时，最久未用的图片最先被移除。族文件不在其中。</translation>
+    </message>
+    <message>
+        <source>"clear" removes all thumbnails; without it nothing is changed</source>
+        <translation>“clear” 移除所有缩略图；不给出时不作任何更改</translation>
+    </message>
+    <message>
+        <source>folder, size and limit</source>
+        <translation>文件夹、大小和上限</translation>
+    </message>
+    <message>
+        <source>remove all thumbnails</source>
+        <translation>移除所有缩略图</translation>
+    </message>
+    <message>
+        <source>Fetch the thumbnail of a component, or a picture by its address</source>
+        <translation>获取构件的缩略图，或按地址获取图片</translation>
+    </message>
+    <message>
+        <source>The picture is kept in the cache, from where it comes the next time, also offline.</source>
+        <translation>图片保存在缓存中，下次直接从缓存读取，离线时也可用。</translation>
+    </message>
+    <message>
+        <source>The id of a component, or an address that begins with http:// or https://</source>
+        <translation>构件编号，或以 http:// 或 https:// 开头的地址</translation>
+    </message>
+    <message>
+        <source>Write the picture there, in the format that the suffix names; - is standard output</source>
+        <translation>把图片写到该文件，格式由扩展名决定；- 表示标准输出</translation>
+    </message>
+    <message>
+        <source>Longest side, 1 to 4096: a larger picture is made smaller</source>
+        <translation>最长边的像素数，1 到 4096：更大的图片会被缩小</translation>
+    </message>
+    <message>
+        <source>the largest thumbnail of a component, as a file</source>
+        <translation>构件最大的缩略图，存为文件</translation>
+    </message>
+    <message>
+        <source>a small one, for another program</source>
+        <translation>小缩略图，交给另一个程序</translation>
+    </message>
+    <message>
+        <source>into the cache only, and say where it lies</source>
+        <translation>只放入缓存，并说明其位置</translation>
+    </message>
 </context>
 <context>
     <name>ErrorDetails</name>
@@ -620,6 +672,42 @@
         <source>none</source>
         <translation>无</translation>
     </message>
+    <message>
+        <source>%1 (%2 files)</source>
+        <translation>%1（%2 个文件）</translation>
+    </message>
+    <message>
+        <source>ACTION has to be "clear", but it is "%1".</source>
+        <translation>ACTION 必须是“clear”，而给出的是“%1”。</translation>
+    </message>
+    <message>
+        <source>Waiting for the picture ...</source>
+        <translation>正在等待图片……</translation>
+    </message>
+    <message>
+        <source>"%1" is no address of the web.</source>
+        <translation>“%1”不是网络地址。</translation>
+    </message>
+    <message>
+        <source>--project goes with the id of a component only.</source>
+        <translation>--project 只能与构件编号一起使用。</translation>
+    </message>
+    <message>
+        <source>The component "%1" has no thumbnail.</source>
+        <translation>构件“%1”没有缩略图。</translation>
+    </message>
+    <message>
+        <source>--json and --output - cannot be used together.</source>
+        <translation>--json 和 --output - 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>The suffix of "%1" names none of the picture formats %2.</source>
+        <translation>“%1”的扩展名不是以下图片格式之一：%2。</translation>
+    </message>
+    <message>
+        <source>The file "%1" could not be written: %2.</source>
+        <translation>无法写入文件“%1”：%2。</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -809,6 +897,38 @@
     <message>
         <source>no</source>
         <translation>否</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>已移除</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>上限</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>From the cache</source>
+        <translation>来自缓存</translation>
+    </message>
+    <message>
+        <source>Cache file</source>
+        <translation>缓存文件</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
     </message>
 </context>
 </TS>

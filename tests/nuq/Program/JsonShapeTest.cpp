@@ -1,3 +1,4 @@
+#include "TarnNuqService/Providers/ImageSample.h"
 #include "support/NuqFixture.h"
 
 #include <QFile>
@@ -88,13 +89,15 @@ protected:
         OnData("/v1/categories/WAT.PIPE.GALV/properties", "{\"categoryId\":1,\"propertyList\":[" + definition + "]}");
         OnData("/v1/projects", R"([{"id":"P","name":"N"}])");
         OnData("/v1/projects/P/components/existence", R"({"exist":true,"version":1})");
+        server.On("/static/t",
+            testsupport::ScriptedResponse::Content(testsupport::ImageBytes(testsupport::SampleImage()), "image/png"));
     }
 };
 
 TEST_F(JsonShapeTest, IsTheDocumentedOneForEveryCommand)
 {
     const auto examples = Examples();
-    EXPECT_EQ(examples.size(), 15u);
+    EXPECT_EQ(examples.size(), 18u);
     for (const auto& [heading, example] : examples) {
         const QJsonDocument documented = QJsonDocument::fromJson(example.document);
         ASSERT_TRUE(documented.isObject()) << heading;
