@@ -1,6 +1,7 @@
 #include "Building/LibraryBuilder.h"
 
 #include "Building/CatalogueWriter.h"
+#include "Building/ComponentsWriter.h"
 #include "Building/LibraryFolder.h"
 #include "Building/PictureWriter.h"
 #include "Reading/SourceReader.h"
@@ -46,6 +47,7 @@ BuildResult LibraryBuilder::Build(const BuildOptions& options, const Progress& p
     const ProductSource source = ReadSource(m_files);
     WritePictures(m_files, source, growing, options.Jobs, m_isStopped);
     const BuildResult result = CatalogueWriter(m_files, source, m_isStopped).Write(growing, options, progress);
+    WriteComponents(growing, m_isStopped);
     folder.Publish(Description(result, digest));
     return result;
 }

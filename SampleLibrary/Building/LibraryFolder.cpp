@@ -84,7 +84,8 @@ bool LibraryFolder::IsUpToDate(const std::string& sourceDigest) const
 {
     const nlohmann::json description = ReadDescription(m_path);
     return description.is_object() && description.value("sourceDigest", nlohmann::json()) == sourceDigest &&
-           QFileInfo::exists(Inside(m_path, QStringLiteral("catalogue.db")));
+           QFileInfo::exists(Inside(m_path, QStringLiteral("catalogue.db"))) &&
+           QFileInfo::exists(Inside(m_path, QStringLiteral("components.db")));
 }
 
 void LibraryFolder::CheckPlace() const

@@ -6,8 +6,12 @@
 #include "Application/CurrentEnvironment.h"
 #include "Application/DesignCloudEndPoints.h"
 #include "Application/EnvironmentFiles.h"
+#include "Application/LibraryFolder.h"
 #include "Application/MajorText.h"
 #include "Application/ProductVersion.h"
+#include "ComponentDatabase/HostObjects/LocalCategories.h"
+#include "ComponentDatabase/HostObjects/LocalLegends.h"
+#include "ComponentDatabase/HostObjects/ProductPaths.h"
 #include "FamilyFiles/FamilyFileFactory.h"
 #include "Logging/DebugWarnings.h"
 #include "Logging/HostLogger.h"
@@ -42,10 +46,14 @@ HostFolders FoldersFrom(const StandaloneHostOptions& options)
     return folders;
 }
 
+QString ProgramFolder(const StandaloneHostOptions& options)
+{
+    return options.programFolder.isEmpty() ? QCoreApplication::applicationDirPath() : options.programFolder;
+}
+
 ResolvedSetting ApplicationFolderFrom(const StandaloneHostOptions& options)
 {
-    return FindApplicationFolder(options.appDir,
-        options.programFolder.isEmpty() ? QCoreApplication::applicationDirPath() : options.programFolder);
+    return FindApplicationFolder(options.appDir, ProgramFolder(options));
 }
 
 LogLevel LevelFrom(
@@ -105,7 +113,11 @@ struct StandaloneHost::Parts
               folders.config, settings, [spMask = logger.Mask()](const QString& token) { spMask->AddSecret(token); }),
           thumbnails(folders.cache), familyFileCache(folders.cache + QStringLiteral("/families")),
           environment(options.environment, settings), environmentFiles(applicationFolder.value),
-          endPoints(environmentFiles, environment.Resolved().value)
+          endPoints(environmentFiles, environment.Resolved().value),
+          libraryFolder(FindLibraryFolder(settings, applicationFolder.value, ProgramFolder(options))),
+          database(libraryFolder.value + QStringLiteral("/components.db"),
+              [this](const componentdatabase::DatabaseReason& reason) { logger.Warn(reason.english); }),
+          categories(database, options.language != QLatin1String("en")), legends(database), productPaths(database)
     {
     }
 
@@ -119,6 +131,9 @@ struct StandaloneHost::Parts
         table.paths = &thumbnails;
         table.baseConfig = &environment;
         table.wabConfig = &endPoints;
+        table.categoryInfo = &categories;
+        table.componentSql = &legends;
+        table.filePaths = &productPaths;
         table.familyFiles = &familyFiles;
         return table;
     }
@@ -137,6 +152,11 @@ struct StandaloneHost::Parts
     CurrentEnvironment environment;
     EnvironmentFiles environmentFiles;
     DesignCloudEndPoints endPoints;
+    ResolvedSetting libraryFolder;
+    componentdatabase::LocalDatabase database;
+    componentdatabase::LocalCategories categories;
+    componentdatabase::LocalLegends legends;
+    componentdatabase::ProductPaths productPaths;
     familyfiles::FamilyFileFactory familyFiles;
 };
 
@@ -191,6 +211,11 @@ HostLogger& StandaloneHost::Logger()
 const familyfiles::FamilyFileFactory& StandaloneHost::FamilyFiles() const
 {
     return m_parts->familyFiles;
+}
+
+const componentdatabase::LocalDatabase& StandaloneHost::Database() const
+{
+    return m_parts->database;
 }
 
 const UrlCache& StandaloneHost::FamilyFileCache() const

@@ -5,6 +5,10 @@
 
 #include <memory>
 
+namespace componentdatabase {
+class LocalDatabase;
+}
+
 namespace familyfiles {
 class FamilyFileFactory;
 }
@@ -17,7 +21,8 @@ class SettingsStore;
 class UrlCache;
 
 /// A real host for running the library outside a modeller: logger, debug warnings, application service, user
-/// service, thumbnail paths, the environment managers and family files, put into the slot table of the process.
+/// service, thumbnail paths, the environment managers, the component database and family files, put into the slot table
+/// of the process.
 ///
 /// Owns all of them. The constructor installs them; the destructor takes them out again (unless another host has
 /// been installed since) and flushes the log. The library's services keep no pointers to host objects, but they
@@ -41,6 +46,9 @@ public:
     HostLogger& Logger();
     /// Opens family files, and tells why one was refused.
     const familyfiles::FamilyFileFactory& FamilyFiles() const;
+
+    /// The component database, which is opened when it is first asked for.
+    const componentdatabase::LocalDatabase& Database() const;
 
     /// Where family files that came from URLs are kept; cleaning up among the thumbnails never reaches it.
     const UrlCache& FamilyFileCache() const;

@@ -23,6 +23,8 @@ struct StandaloneHostOptions
     std::optional<LogLevel> fileLevel;
     /// What standard error takes; not given: the settings' "log/consoleLevel", else warning.
     std::optional<LogLevel> consoleLevel;
+    /// The language of names in the component database, "zh" or "en"; empty: Chinese.
+    QString language;
     /// The folders for settings and tokens, thumbnails, fetched families, and logs; empty: those of the
     /// platform, see HostFolders. Relative paths are taken from the current folder.
     QString configFolder;

@@ -46,8 +46,8 @@ TEST_F(Place, AnEmptyFolderIsFilled)
 {
     ASSERT_TRUE(QDir().mkdir(m_folder));
     EXPECT_EQ(Build().ExitCode, 0);
-    EXPECT_EQ(Names(m_folder),
-        (QStringList{QStringLiteral("catalogue.db"), QStringLiteral("library.json"), QStringLiteral("static")}));
+    EXPECT_EQ(Names(m_folder), (QStringList{QStringLiteral("catalogue.db"), QStringLiteral("components.db"),
+                                   QStringLiteral("library.json"), QStringLiteral("static")}));
 }
 
 TEST_F(Place, AFolderWithOtherThingsIsNeverTouched)

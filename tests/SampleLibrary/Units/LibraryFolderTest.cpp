@@ -25,7 +25,9 @@ protected:
     void Publish(const QByteArray& catalogue)
     {
         LibraryFolder folder(m_path);
-        WriteFile(folder.Begin() + QStringLiteral("/catalogue.db"), catalogue);
+        const QString growing = folder.Begin();
+        WriteFile(growing + QStringLiteral("/catalogue.db"), catalogue);
+        WriteFile(growing + QStringLiteral("/components.db"), "the host's");
         folder.Publish(Description);
     }
 
