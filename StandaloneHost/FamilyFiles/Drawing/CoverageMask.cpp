@@ -72,17 +72,43 @@ bool CoverageMask::IsCovered(const Point2& point) const
     return isInside && m_cells[static_cast<std::size_t>(row * m_columns + column)] != 0;
 }
 
+Point2 CoverageMask::InCells(const Point2& point) const
+{
+    return {(point.u - m_low.u) / m_cell + kMargin, (point.v - m_low.v) / m_cell + kMargin};
+}
+
 bool CoverageMask::IsAtBackground(const Point2& from, const Point2& to) const
 {
     const double length = std::hypot(to.u - from.u, to.v - from.v);
     if (length == 0) {
         return false;
     }
-    const Point2 middle{
-        ((from.u + to.u) / 2 - m_low.u) / m_cell + kMargin, ((from.v + to.v) / 2 - m_low.v) / m_cell + kMargin};
+    const Point2 middle = InCells({(from.u + to.u) / 2, (from.v + to.v) / 2});
     const Point2 beside{-(to.v - from.v) / length * kBeside, (to.u - from.u) / length * kBeside};
     return !IsCovered({middle.u + beside.u, middle.v + beside.v}) ||
            !IsCovered({middle.u - beside.u, middle.v - beside.v});
+}
+
+bool CoverageMask::RunsAlongBorder(const Point2& from, const Point2& to) const
+{
+    constexpr int pieces = 10;
+    const double length = std::hypot(to.u - from.u, to.v - from.v);
+    if (length == 0) {
+        return false;
+    }
+    const Point2 across{-(to.v - from.v) / length, (to.u - from.u) / length};
+    for (int i = 1; i < pieces; ++i) {
+        const double part = static_cast<double>(i) / pieces;
+        const Point2 at = InCells({from.u + (to.u - from.u) * part, from.v + (to.v - from.v) * part});
+        const auto isCovered = [&](double cells) {
+            return IsCovered({at.u + across.u * cells, at.v + across.v * cells});
+        };
+        const bool isFree = !isCovered(kBeside) || !isCovered(-kBeside);
+        if (!isFree || !(isCovered(0) || isCovered(1) || isCovered(-1) || isCovered(kBeside) || isCovered(-kBeside))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace familyfiles

@@ -4,6 +4,8 @@
 #include "FamilyFiles/Drawing/ConnectorPaths.h"
 #include "FamilyFiles/Drawing/CoverageMask.h"
 #include "FamilyFiles/Drawing/LineChaining.h"
+#include "FamilyFiles/Drawing/LineOverlaps.h"
+#include "FamilyFiles/Drawing/OutlineClosing.h"
 #include "FamilyFiles/Drawing/ViewPlane.h"
 
 #include <algorithm>
@@ -19,6 +21,9 @@ constexpr double kTolerance = 1e-4;
 
 /// A piece longer than this part of the diagonal is looked at in parts: it may be an outline for a part of its length.
 constexpr double kLookLength = 0.02;
+
+/// An outline is closed across gaps up to this part of the diagonal.
+constexpr double kGap = 0.1;
 
 struct SeenLines
 {
@@ -70,11 +75,16 @@ public:
         for (const LineSegment& piece : lines.visible) {
             Sort(piece, m_mask, m_diagonal * kLookLength, seen);
         }
-        const std::vector<LineSegment> hidden = TakeOutlines(lines.hidden, seen);
-        Add(LineStyle::Hidden, Chained(WithoutThose(hidden, lines.visible, m_diagonal * kGrid)));
+        std::vector<LineSegment> hidden = TakeOutlines(lines.hidden, seen);
+        const double near = m_diagonal * kGrid;
+        const std::vector<LineSegment> outline = WithoutOverlaps(seen.outline, {}, near);
+        const std::vector<LineSegment> inside = WithoutOverlaps(seen.inside, outline, near);
+        hidden = WithoutOverlaps(WithoutThose(hidden, lines.visible, near), inside, near);
+        hidden = WithoutOverlaps(hidden, outline, near);
+        Add(LineStyle::Hidden, Chained(hidden));
         Add(LineStyle::Centre, CentreLinePaths(centreLines, m_plane, m_diagonal));
-        Add(LineStyle::Visible, Chained(seen.inside));
-        Add(LineStyle::Outline, Chained(seen.outline));
+        Add(LineStyle::Visible, Chained(inside));
+        Add(LineStyle::Outline, Closed(outline));
         Add(LineStyle::Connector, ConnectorPaths(connectors, m_plane, m_diagonal));
         return std::move(m_drawing);
     }
@@ -93,6 +103,17 @@ private:
             (m_mask.IsAtBackground(piece.from, piece.to) ? seen.outline : rest).push_back(piece);
         }
         return rest;
+    }
+
+    std::vector<std::vector<Point2>> Closed(std::vector<LineSegment> outline) const
+    {
+        std::vector<std::vector<Point2>> lines = Chained(outline);
+        const std::vector<LineSegment> gaps = GapsOf(lines, m_mask, m_diagonal * kGap);
+        if (gaps.empty()) {
+            return lines;
+        }
+        outline.insert(outline.end(), gaps.begin(), gaps.end());
+        return Chained(outline);
     }
 
     void Add(LineStyle style, const std::vector<std::vector<Point2>>& lines)

@@ -11,6 +11,7 @@
 #include <Message_PrinterOStream.hxx>
 #include <Message_ProgressRange.hxx>
 #include <RWGltf_CafWriter.hxx>
+#include <STEPCAFControl_Controller.hxx>
 #include <STEPCAFControl_Writer.hxx>
 #include <STEPControl_Reader.hxx>
 #include <StlAPI_Writer.hxx>
@@ -30,9 +31,11 @@ std::mutex& ExchangeLock()
 
 bool WriteStepTo(const ExchangeDocument& document, const std::string& path, StepSchema schema)
 {
-    STEPCAFControl_Writer writer;
+    // The settings are there once the library knows its STEP module, and a writer takes them when it is made.
+    STEPCAFControl_Controller::Init();
     Interface_Static::SetCVal("write.step.schema", schema == StepSchema::Ap214 ? "AP214IS" : "AP242DIS");
     Interface_Static::SetCVal("write.step.unit", "MM");
+    STEPCAFControl_Writer writer;
     writer.SetColorMode(true);
     writer.SetNameMode(false);
     return writer.Transfer(document.Document(), STEPControl_AsIs) && writer.Write(path.c_str()) == IFSelect_RetDone;

@@ -2,6 +2,7 @@
 
 #include "FamilyFiles/Geometry/GeometryFailure.h"
 #include "FamilyFiles/Geometry/SolidCheck.h"
+#include "FamilyFiles/Geometry/SurfaceNormals.h"
 
 #include <BRepBndLib.hxx>
 #include <BRepGProp.hxx>
@@ -70,6 +71,7 @@ void OcctSolid::EnsureTriangles() const
     if (!mesh.IsDone()) {
         throw GeometryFailure("geometry.failed", "The surface cannot be cut into triangles", "表面无法三角化");
     }
+    AddSurfaceNormals(m_shape);
     m_hasTriangles = true;
 }
 

@@ -13,8 +13,11 @@
 #include <BRepPrimAPI_MakeRevol.hxx>
 #include <BRepPrimAPI_MakeSphere.hxx>
 #include <BRepPrimAPI_MakeTorus.hxx>
+#include <GeomConvert.hxx>
+#include <Geom_BSplineCurve.hxx>
+#include <Geom_Ellipse.hxx>
+#include <Geom_TrimmedCurve.hxx>
 #include <TopoDS_Face.hxx>
-#include <gp_Elips.hxx>
 
 namespace familyfiles {
 
@@ -45,11 +48,18 @@ TopoDS_Shape Revolve(const TopoDS_Face& face, const Frame& frame, double angle)
     return BRepPrimAPI_MakeRevol(ahead, axis, angle * kRadiansPerDegree).Shape();
 }
 
-gp_Elips DomeEllipse(const DomeShape& dome, const Frame& radial)
+/// From the rim to the top. As a spline, because programs that read STEP files, this library among them, do not all
+/// take a turned ellipse back.
+Handle(Geom_Curve) DomeCurve(const DomeShape& dome, const Frame& radial)
 {
     const bool isFlat = dome.radius >= dome.depth;
     const gp_Ax2 axes(ToPoint(radial.origin), ToDirection(radial.w), ToDirection(isFlat ? radial.u : radial.v));
-    return {axes, std::max(dome.radius, dome.depth), std::min(dome.radius, dome.depth)};
+    const Handle(Geom_Ellipse) ellipse =
+        new Geom_Ellipse(axes, std::max(dome.radius, dome.depth), std::min(dome.radius, dome.depth));
+    // A high ellipse begins its count at the top, so that the rim comes a quarter turn before.
+    const double begin = isFlat ? 0 : -90 * kRadiansPerDegree;
+    const Handle(Geom_TrimmedCurve) quarter = new Geom_TrimmedCurve(ellipse, begin, begin + 90 * kRadiansPerDegree);
+    return GeomConvert::CurveToBSplineCurve(quarter);
 }
 
 /// A quarter of an ellipse between the axis and the rim.
@@ -59,7 +69,7 @@ TopoDS_Face DomeFace(const DomeShape& dome, const Frame& radial)
     const gp_Pnt rim = ToPoint(radial, {dome.radius, 0});
     const gp_Pnt top = ToPoint(radial, {0, dome.depth});
     const TopoDS_Edge bottom = BRepBuilderAPI_MakeEdge(centre, rim);
-    const TopoDS_Edge curve = BRepBuilderAPI_MakeEdge(DomeEllipse(dome, radial), rim, top);
+    const TopoDS_Edge curve = BRepBuilderAPI_MakeEdge(DomeCurve(dome, radial), rim, top);
     const TopoDS_Edge axis = BRepBuilderAPI_MakeEdge(top, centre);
     return BRepBuilderAPI_MakeFace(BRepBuilderAPI_MakeWire(bottom, curve, axis), true);
 }
@@ -98,6 +108,10 @@ TopoDS_Shape MakeShape(const SphereShape& sphere)
 
 TopoDS_Shape MakeShape(const DomeShape& dome)
 {
+    if (dome.radius == dome.depth) {
+        constexpr double quarter = 90 * kRadiansPerDegree;
+        return BRepPrimAPI_MakeSphere(ToAxes(dome.place), dome.radius, 0, quarter).Solid();
+    }
     return Revolve(DomeFace(dome, RadialFrame(dome.place)), dome.place, kFullTurn);
 }
 

@@ -1,8 +1,6 @@
 #include "FamilyFiles/Geometry/SurfaceMesh.h"
 
 #include <BRep_Tool.hxx>
-#include <GeomLib.hxx>
-#include <Geom_Surface.hxx>
 #include <Poly_Triangulation.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
@@ -30,38 +28,23 @@ public:
         const bool isReversed = face.Orientation() == TopAbs_REVERSED;
         const gp_Trsf place = location.Transformation();
         const auto first = static_cast<std::uint32_t>(m_mesh.vertices.size());
-        AddVertices(*triangles, BRep_Tool::Surface(face, location), place, isReversed);
+        AddVertices(*triangles, place, isReversed);
         // A mirrored place turns the order of corners round too.
         AddTriangles(*triangles, first, material, isReversed != place.IsNegative());
     }
 
 private:
-    void AddVertices(
-        Poly_Triangulation& triangles, const Handle(Geom_Surface) & surface, const gp_Trsf& place, bool isReversed)
+    void AddVertices(const Poly_Triangulation& triangles, const gp_Trsf& place, bool isReversed)
     {
         for (int i = 1; i <= triangles.NbNodes(); ++i) {
             const gp_Pnt point = triangles.Node(i).Transformed(place);
             m_mesh.vertices.push_back({{point.X(), point.Y(), point.Z()}, {}});
-            if (m_wantsNormals) {
-                const gp_Dir normal = NormalOf(triangles, surface, i).Transformed(place);
+            if (m_wantsNormals && triangles.HasNormals()) {
+                const gp_Dir normal = triangles.Normal(i).Transformed(place);
                 const Point3 outward{normal.X(), normal.Y(), normal.Z()};
                 m_mesh.vertices.back().normal = isReversed ? outward * -1 : outward;
             }
         }
-    }
-
-    /// The surface's own normal; at the tip of a cone, which has none, that of the triangles around it.
-    static gp_Dir NormalOf(Poly_Triangulation& triangles, const Handle(Geom_Surface) & surface, int node)
-    {
-        constexpr double precision = 1e-9;
-        gp_Dir normal;
-        if (triangles.HasUVNodes() && GeomLib::NormEstim(surface, triangles.UVNode(node), precision, normal) == 0) {
-            return normal;
-        }
-        if (!triangles.HasNormals()) {
-            triangles.ComputeNormals();
-        }
-        return triangles.Normal(node);
     }
 
     void AddTriangles(const Poly_Triangulation& triangles, std::uint32_t first, std::uint16_t material, bool isTurned)
