@@ -6,6 +6,7 @@
 #include "FamilyFiles/Reason.h"
 #include "zept/FamilyType.h"
 #include "zept/IFamilyFile.h"
+#include "zept/IGeometry.h"
 
 #include <functional>
 #include <memory>

@@ -25,7 +25,9 @@ LoadedModule Load(const QString& path, const char* module, const char* name)
     QLibrary library(path);
     const auto function = reinterpret_cast<ModuleFunction>(library.resolve(name));
     if (function == nullptr) {
-        return {nullptr, Missing(module, library.errorString())};
+        return {nullptr,
+            Missing(module, library.isLoaded() ? path + QStringLiteral(" does not have ") + QString::fromLatin1(name)
+                                               : library.errorString())};
     }
     const void* const object = function(TARNNUQ_VERSION);
     if (object == nullptr) {
