@@ -1,5 +1,6 @@
 #include "Logging/LogMask.h"
 
+#include "support/NamedCase.h"
 #include "support/PrintQt.h"
 #include <gtest/gtest.h>
 #include <thread>
@@ -14,17 +15,11 @@ QString Masked(const QString& text)
     return LogMask().Apply(text);
 }
 
-struct Row
+struct Row : testsupport::NamedCase
 {
-    const char* name;
     const char* text;
     const char* masked;
 };
-
-void PrintTo(const Row& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 class LogMaskRow : public testing::TestWithParam<Row>
 {
@@ -63,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(Rules, LogMaskRow,
         Row{"AddressBehindAnUrl", "http://h me@there", "http://h me@there"},
         Row{"Ordinary", "request:http://h/v3/categories?major=&keyword=水泵",
             "request:http://h/v3/categories?major=&keyword=水泵"}),
-    [](const testing::TestParamInfo<Row>& row) { return std::string(row.param.name); });
+    testsupport::RowName());
 
 TEST(LogMask, HidesKnownSecretsEverywhere)
 {

@@ -1,6 +1,7 @@
 #include "Settings/SettingsStore.h"
 
 #include "Settings/FileLock.h"
+#include "support/NamedCase.h"
 #include "support/PrintQt.h"
 #include "support/TestFolder.h"
 #include <QDir>
@@ -162,16 +163,10 @@ TEST(SettingsStore, AcceptsAByteOrderMark)
     EXPECT_EQ(settings.Integer(QStringLiteral("a")), 1);
 }
 
-struct Damage
+struct Damage : testsupport::NamedCase
 {
-    const char* name;
     QByteArray content;
 };
-
-void PrintTo(const Damage& damage, std::ostream* out)
-{
-    *out << damage.name;
-}
 
 class DamagedSettings : public testing::TestWithParam<Damage>
 {
@@ -204,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, DamagedSettings,
         Damage{"Text", "a=1\n"}, Damage{"Zeros", QByteArray(100, '\0')}, Damage{"InvalidUtf8", "{\"a\":\"\xff\xfe\"}"},
         Damage{"Garbage", "{\"a\":1}}"}, Damage{"DeepNesting", QByteArray(100000, '[')},
         Damage{"Huge", QByteArray((16 << 20) + 1, ' ')}),
-    [](const testing::TestParamInfo<Damage>& row) { return std::string(row.param.name); });
+    testsupport::RowName());
 
 TEST(SettingsStore, SetsASecondDamagedFileAsideUnderAnotherName)
 {

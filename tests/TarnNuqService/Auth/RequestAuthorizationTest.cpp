@@ -1,7 +1,7 @@
 #include "Auth/RequestAuthorization.h"
 #include "Auth/PlainAuthorization_p.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "support/LoopbackServer.h"
+#include "support/NamedCase.h"
 #include "support/RecordingHost.h"
 #include "support/ReplyFetcher.h"
 
@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Environments, EnvironmentAwareAuthorizationTest,
         EnvironmentCase{{"NameThatBeginsWithQa"}, "qa2", L"abc", L"qa-token", "abc"},
         EnvironmentCase{{"ChineseQaToken"}, "qa", L"abc", L"令牌 Ä", "bearer 令牌 Ä"},
         EnvironmentCase{{"ChineseToken"}, "prod", L"令牌 Ä", L"qa-token", "令牌 Ä"}),
-    testsupport::NameOf<EnvironmentCase>);
+    testsupport::RowName());
 
 TEST_F(AuthorizationTest, ReplacesAHeaderThatWasThere)
 {
@@ -213,4 +213,4 @@ TEST_P(PlainAuthorizationTest, DoesNotAskForTheEnvironment)
 INSTANTIATE_TEST_SUITE_P(Variants, PlainAuthorizationTest,
     ::testing::Values(PlainCase{{"Logged"}, tarnnuq::SetPlainAuthorization, true},
         PlainCase{{"NotLogged"}, tarnnuq::SetUnloggedPlainAuthorization, false}),
-    testsupport::NameOf<PlainCase>);
+    testsupport::RowName());

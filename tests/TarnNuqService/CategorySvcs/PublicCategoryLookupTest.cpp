@@ -1,5 +1,5 @@
 #include "TarnNuqService/CategorySvcs/PublicCategoryFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
+#include "support/NamedCase.h"
 
 using tarnnuq::ICategory;
 using testsupport::CategoryRow;
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, PublicCategoryIdTextTest,
         LookupCase{{"SevenBeyond64Bits"}, L"18446744073709551623", None},
         LookupCase{{"ManyDigits"}, std::wstring(100000, L'7'), None}, LookupCase{{"ArabicDigit"}, L"\u0667", None},
         LookupCase{{"FullWidthDigit"}, L"\uFF17", None}, LookupCase{{"NulBehind"}, std::wstring(L"7\0", 2), None}),
-    testsupport::NameOf<LookupCase>);
+    testsupport::RowName());
 
 TEST_P(PublicCategoryChainTest, LeadsFromTheOutermostAncestorToTheCategory)
 {
@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Trees, PublicCategoryChainTest,
         ChainCase{{"FirstOfTwoCategoriesWithOneId"}, {{5, 8, 0}, {5, 9, 1}, {8, 0, 2}, {9, 0, 3}}, L"5", {8, 5}},
         // The second of the doubled ids is never on the way: its own parent is the first.
         ChainCase{{"ParentWithTheSameId"}, {{5, 0, 0}, {5, 5, 1}}, L"5", {5}}),
-    testsupport::NameOf<ChainCase>);
+    testsupport::RowName());
 
 TEST_F(PublicCategoryLookupTest, AnEmptyCacheHasNothing)
 {

@@ -1,5 +1,5 @@
 #include "TarnNuqService/CategorySvcs/PublicCategoryFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
+#include "support/NamedCase.h"
 
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -182,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, PublicCategoryFailureTest,
         BodyCase("NoCode", R"({"success":true,"data":[{"id":1}]})"), BodyCase("NoData", R"({"code":"success"})"),
         BodyCase("DataIsNull", SuccessBody("null")), BodyCase("DataIsAnObject", SuccessBody(R"({"id":1,"count":5})")),
         BodyCase("DataIsAText", SuccessBody("\"[]\""))),
-    testsupport::NameOf<FailureCase>);
+    testsupport::RowName());
 
 TEST_F(PublicCategoryReplyTest, RepliesAreAppliedInTheOrderInWhichTheyFinish)
 {

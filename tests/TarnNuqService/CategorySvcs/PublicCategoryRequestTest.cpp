@@ -1,5 +1,5 @@
 #include "TarnNuqService/CategorySvcs/PublicCategoryFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
+#include "support/NamedCase.h"
 
 #include <QNetworkReply>
 #include <QPointer>
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Major, PublicCategoryUrlTest,
         PlainCase("Plumbing", 0, L"1.0", "component_type=system&major=0&software_version=1.0"),
         PlainCase("Hvac", 1, L"2.7", "component_type=system&major=1&software_version=2.7"),
         PlainCase("Electrical", 2, L"", "component_type=system&major=2&software_version=")),
-    testsupport::NameOf<RequestCase>);
+    testsupport::RowName());
 
 INSTANTIATE_TEST_SUITE_P(Keyword, PublicCategoryUrlTest,
     ::testing::Values(KeywordCase("Plain", "pump", "pump"), KeywordCase("Blank", "a b", "a%20b"),
@@ -101,12 +101,12 @@ INSTANTIATE_TEST_SUITE_P(Keyword, PublicCategoryUrlTest,
         KeywordCase("Percent", "50%", "50%25"), KeywordCase("PercentAndDigits", "%20", "%2520"),
         KeywordCase("Ampersand", "a&b=c", "a%26b%3Dc"), KeywordCase("PlusAndHash", "a+b#c", "a%2Bb%23c"),
         KeywordCase("PlaceMarker", "%1%2", "%251%252"), KeywordCase("BeyondTheFirstPlane", "𠮷", "%F0%A0%AE%B7")),
-    testsupport::NameOf<RequestCase>);
+    testsupport::RowName());
 
 INSTANTIATE_TEST_SUITE_P(Version, PublicCategoryUrlTest,
     ::testing::Values(VersionCase("Blank", "1.0 beta", "1.0%20beta"), VersionCase("Chinese", "版", "%E7%89%88"),
         VersionCase("EncodedAlready", "a%26b", "a%26b"), VersionCase("PlaceMarkers", "%1-%2-%3", "%251-%252-%253")),
-    testsupport::NameOf<RequestCase>);
+    testsupport::RowName());
 
 TEST_F(PublicCategoryMarkersTest, TextsWithPlaceMarkersArriveAsTheyAre)
 {

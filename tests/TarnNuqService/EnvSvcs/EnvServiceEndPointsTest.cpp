@@ -1,7 +1,7 @@
 #include "EnvSvcs/EnvService.h"
 #include "TarnNuqService/EnvSvcs/EnvServiceAccess.h"
 #include "TarnNuqService/EnvSvcs/EnvServiceFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
+#include "support/NamedCase.h"
 
 using tarnnuq::EnvService;
 using tarnnuq::EnvServiceAccess;
@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(MainFile, EnvServiceEndPointsTest,
         MainCase("PathsWithBlanksAround",
             R"({"wab_env":" /nuq_env_config/wab_env.xml","pyx_env":" /nuq_env_config/pyx_env.json",)"
             R"("env_map":" /nuq_env_config/env_map.json"})")),
-    testsupport::NameOf<EndPointCase>);
+    testsupport::RowName());
 
 INSTANTIATE_TEST_SUITE_P(MapFile, EnvServiceEndPointsTest,
     ::testing::Values(MapCase("ValueTrimmedAndLowerCased", R"({"qa":" \tTEST\n "})", L"test"),
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(MapFile, EnvServiceEndPointsTest,
         MapCase("NameWithBlanks", R"({" qa ":"test"})", L""), MapCase("NumberForText", R"({"qa":1})", L""),
         MapCase("BlankText", R"({"qa":"  "})", L""), MapCase("AnArray", R"(["qa","test"])", L""),
         MapCase("NoJson", "qa=test", L""), MapCase("UnknownToThePyxFile", R"({"qa":"Elsewhere"})", L"elsewhere")),
-    testsupport::NameOf<EndPointCase>);
+    testsupport::RowName());
 
 INSTANTIATE_TEST_SUITE_P(PyxFile, EnvServiceEndPointsTest,
     ::testing::Values(
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(PyxFile, EnvServiceEndPointsTest,
         PyxCase("OtherEnvironmentOnly", R"({"production":{"api":"http://h/a","static":"http://h/s"}})", L""),
         PyxCase("AnArray", R"([{"test":{"api":"http://h/a"}}])", L""), PyxCase("NoJson", "test: api", L""),
         PyxCase("CutShort", R"({"test":{"api":"http://h/a")", L"")),
-    testsupport::NameOf<EndPointCase>);
+    testsupport::RowName());
 
 TEST_F(EnvServiceTest, EnvironmentNamesMayBeChinese)
 {

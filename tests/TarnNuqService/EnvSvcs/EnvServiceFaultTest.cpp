@@ -1,9 +1,9 @@
 #include "EnvSvcs/EnvService.h"
 #include "TarnNuqService/EnvSvcs/EnvServiceAccess.h"
 #include "TarnNuqService/EnvSvcs/EnvServiceFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/EnvSvcs/UnprivilegedUser.h"
 #include "support/AllocationFailure.h"
+#include "support/NamedCase.h"
 
 #include <QDir>
 #include <QFile>
@@ -149,7 +149,7 @@ TEST_P(EnvServiceFileFaultTest, HugeFilesAreReadWhole)
     EXPECT_EQ(text.size(), Size + (EnvironmentFiles().*GetParam().content).size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, EnvServiceFileFaultTest, ::testing::ValuesIn(FileCases), testsupport::NameOf<FileCase>);
+INSTANTIATE_TEST_SUITE_P(Files, EnvServiceFileFaultTest, ::testing::ValuesIn(FileCases), testsupport::RowName());
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "TarnNuqService/EnvSvcs/EnvServiceAccess.h"
 #include "TarnNuqService/EnvSvcs/EnvServiceFixture.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
+#include "support/NamedCase.h"
 
 using tarnnuq::EnvServiceAccess;
 using testsupport::EnvironmentFiles;
@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Xml, WabEnvSettingsTest,
         SettingsCase{{"EntitiesWithoutEndAreAnError"}, EntitiesWithoutEnd(), {{L"a", L"1"}}},
         SettingsCase{{"NoXml"}, "name=qa", {}}, SettingsCase{{"Empty"}, "", {}},
         SettingsCase{{"HalfAByteOrderMark"}, "\xef\xbb<env a='1'/>", {}}),
-    testsupport::NameOf<SettingsCase>);
+    testsupport::RowName());
 
 TEST_F(WabEnvSettingsWithoutEnvironmentTest, AreCollectedWithoutAnEnvironmentOfTheHost)
 {

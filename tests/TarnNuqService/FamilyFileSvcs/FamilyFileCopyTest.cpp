@@ -1,6 +1,6 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/EnvSvcs/UnprivilegedUser.h"
 #include "TarnNuqService/FamilyFileSvcs/FamilyFileFixture.h"
+#include "support/NamedCase.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(Names, FamilyFileCopyNameTest,
         // The name of a copy is one like any other.
         NameCase{{"ACopy"}, "pump_{00000000-0000-0000-0000-000000000000}.rfx",
             "pump_{00000000-0000-0000-0000-000000000000}", ".rfx"}),
-    testsupport::NameOf<NameCase>);
+    testsupport::RowName());
 
 TEST_F(FamilyFileCopyTest, IsAnotherOneForEachService)
 {

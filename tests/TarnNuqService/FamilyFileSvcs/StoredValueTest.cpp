@@ -1,6 +1,6 @@
 // The texts of values, in both directions, by table: every storage type at its limits.
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/FamilyFileSvcs/FamilyFileFixture.h"
+#include "support/NamedCase.h"
 
 #include <QLocale>
 #include <cmath>
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReadYesNoTest,
         ReadCase<bool>{{"TwoReplacementCharacters"}, L"\uFFFD\uFFFD", true},
         ReadCase<bool>{{"OneReplacementCharacter"}, L"\uFFFD", false},
         ReadCase<bool>{{"MillionCharacters"}, std::wstring(1000000, L'1'), false}),
-    testsupport::NameOf<ReadCase<bool>>);
+    testsupport::RowName());
 
 TEST_P(ReadIntegerTest, FollowsTheRule)
 {
@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReadIntegerTest,
         ReadCase<int>{{"BlankInside"}, L"4 2", 0}, ReadCase<int>{{"Unit"}, L"42 mm", 0},
         ReadCase<int>{{"TwoSigns"}, L"--42", 0}, ReadCase<int>{{"NulBehind"}, std::wstring(L"42\0", 3), 0},
         ReadCase<int>{{"True"}, L"true", 0}, ReadCase<int>{{"MillionDigits"}, std::wstring(1000000, L'1'), 0}),
-    testsupport::NameOf<ReadCase<int>>);
+    testsupport::RowName());
 
 TEST_P(ReadNumberTest, FollowsTheRule)
 {
@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReadNumberTest,
         ReadCase<double>{{"NegativeInfinite"}, L"-inf", -Doubles::infinity()},
         ReadCase<double>{{"NotANumber"}, L"nan", Doubles::quiet_NaN()},
         ReadCase<double>{{"MillionLetters"}, std::wstring(1000000, L'x'), 0}),
-    testsupport::NameOf<ReadCase<double>>);
+    testsupport::RowName());
 
 TEST_P(ReadTextTest, TakesTheTextAsItIs)
 {
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReadTextTest,
         ReadCase<std::wstring>{{"LoneSurrogate"}, std::wstring(1, wchar_t(0xD800)), std::wstring(1, wchar_t(0xD800))},
         ReadCase<std::wstring>{{"NulInside"}, std::wstring(L"a\0b", 3), std::wstring(L"a\0b", 3)},
         ReadCase<std::wstring>{{"MillionCharacters"}, std::wstring(1000000, L'x'), std::wstring(1000000, L'x')}),
-    testsupport::NameOf<ReadCase<std::wstring>>);
+    testsupport::RowName());
 
 TEST_P(WriteYesNoTest, IsTheStoredText)
 {
@@ -168,7 +168,7 @@ TEST_P(WriteYesNoTest, IsTheStoredText)
 
 INSTANTIATE_TEST_SUITE_P(Values, WriteYesNoTest,
     ::testing::Values(WriteCase<bool>{{"Yes"}, true, L"true"}, WriteCase<bool>{{"No"}, false, L"false"}),
-    testsupport::NameOf<WriteCase<bool>>);
+    testsupport::RowName());
 
 TEST_P(WriteIntegerTest, IsDecimal)
 {
@@ -179,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(Values, WriteIntegerTest,
     ::testing::Values(WriteCase<int>{{"Zero"}, 0, L"0"}, WriteCase<int>{{"Positive"}, 1000, L"1000"},
         WriteCase<int>{{"Negative"}, -42, L"-42"}, WriteCase<int>{{"Largest"}, 2147483647, L"2147483647"},
         WriteCase<int>{{"Smallest"}, MinInt, L"-2147483648"}),
-    testsupport::NameOf<WriteCase<int>>);
+    testsupport::RowName());
 
 TEST_P(WriteNumberTest, HasSixDecimalsAtMostAndNoZerosBehind)
 {
@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Values, WriteNumberTest,
         WriteCase<double>{{"Infinite"}, Doubles::infinity(), L"inf"},
         WriteCase<double>{{"NegativeInfinite"}, -Doubles::infinity(), L"-inf"},
         WriteCase<double>{{"NotANumber"}, Doubles::quiet_NaN(), L"nan"}),
-    testsupport::NameOf<WriteCase<double>>);
+    testsupport::RowName());
 
 TEST_P(WriteNumberTest, IsTheSameInEveryLanguage)
 {
@@ -231,4 +231,4 @@ INSTANTIATE_TEST_SUITE_P(Values, WriteTextTest,
         WriteCase<std::wstring>{{"Zeros"}, L"1.500", L"1.500"}, WriteCase<std::wstring>{{"Blanks"}, L" x ", L" x "},
         WriteCase<std::wstring>{{"NulInside"}, std::wstring(L"a\0b", 3), std::wstring(L"a\0b", 3)},
         WriteCase<std::wstring>{{"MillionCharacters"}, std::wstring(1000000, L'x'), std::wstring(1000000, L'x')}),
-    testsupport::NameOf<WriteCase<std::wstring>>);
+    testsupport::RowName());

@@ -1,9 +1,9 @@
 #include "ResponseHandlers/CustomFileReply.h"
 
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/EnvSvcs/UnprivilegedUser.h"
 #include "TarnNuqService/PendingReplies/PendingReplyFixture.h"
 #include "support/FileSizeLimit.h"
+#include "support/NamedCase.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, CustomFileReplyBodyTest,
             ScriptedResponse::Status(200, EveryByte(2000)).Dripping(500, std::chrono::milliseconds(1)),
             EveryByte(2000)},
         BodyCase{{"ARedirectionIsTakenForTheFile"}, ScriptedResponse::Redirect("/elsewhere"), "<html>moved</html>"}),
-    testsupport::NameOf<BodyCase>);
+    testsupport::RowName());
 
 TEST_F(CustomFileReplyTest, ALongerFileThatWasThereIsReplaced)
 {
@@ -204,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, CustomFileReplyFailureTest,
             QStringLiteral("Connection closed")},
         FailureCase{{"ShorterThanItsLength"}, ScriptedResponse::Status(200, "half").WithDeclaredLength(8), 200,
             QStringLiteral("Connection closed")}),
-    testsupport::NameOf<FailureCase>);
+    testsupport::RowName());
 
 TEST_F(CustomFileReplyTest, AServerThatIsNotThereHasNoStatus)
 {

@@ -2,9 +2,9 @@
 
 #include "Records/ICategoryMapping.h"
 #include "Records/ILegend.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/PendingReplies/PendingReplyFixture.h"
 #include "TarnNuqService/PendingReplies/ThrowingHandler.h"
+#include "support/NamedCase.h"
 
 #include <stdexcept>
 
@@ -210,7 +210,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, CustomReplyFailureTest,
         BodyCase("CodeThatIsANumber", R"({"code":200,"message":"ok"})",
             "internal request error: custom code - , message - ok"),
         BodyCase("AnArray", "[" + TwoMappings + "]", "internal request error: custom code - , message - ")),
-    testsupport::NameOf<FailureCase>);
+    testsupport::RowName());
 
 TEST_F(CustomReplyTest, ATypeWithoutAHandlerIsAnError)
 {

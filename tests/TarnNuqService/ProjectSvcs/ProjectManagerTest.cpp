@@ -1,5 +1,5 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/ProjectSvcs/IProjectManagerAccess.h"
+#include "support/NamedCase.h"
 #include "support/RecordingHost.h"
 
 #include <gtest/gtest.h>
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Names, OtherApplicationTest,
         NameCase{{"LowerCase"}, L"appnuq"}, NameCase{{"OneLetterInAnotherCase"}, L"AppNUq"},
         NameCase{{"BlankInFront"}, L" AppNuq"}, NameCase{{"BlankBehind"}, L"AppNuq "},
         NameCase{{"NulBehind"}, std::wstring(L"AppNuq\0", 7)}),
-    testsupport::NameOf<NameCase>);
+    testsupport::RowName());
 
 TEST_F(ProjectManagerTest, TheWorkingProjectIsAskedForEachTime)
 {

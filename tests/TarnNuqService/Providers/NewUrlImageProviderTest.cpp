@@ -1,9 +1,9 @@
 #include "ResponseHandlers/CustomFileReply.h"
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/Providers/NewUrlImageProviderAccess.h"
 #include "TarnNuqService/Providers/ProviderFixture.h"
 #include "TarnNuqService/Providers/UrlImageProviderAccess.h"
 #include "support/FileSizeLimit.h"
+#include "support/NamedCase.h"
 
 #include <QSignalSpy>
 
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, SavedBodyTest,
         Body{{"Nothing"}, ScriptedResponse::Status(200), ""}, Body{{"NoContent"}, ScriptedResponse::Status(204), ""},
         Body{{"NotModified"}, ScriptedResponse::Status(304), ""},
         Body{{"ARedirection"}, ScriptedResponse::Redirect("/elsewhere"), "<html>moved</html>"}),
-    testsupport::NameOf<Body>);
+    testsupport::RowName());
 
 TEST_P(FailedDownloadTest, IsReportedByTheReplyAndMakesNoFile)
 {
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, FailedDownloadTest,
         Failure{{"ClosedBeforeTheHeaders"},
             ScriptedResponse::Status(200, Png).CutAt(ScriptedResponse::CutPoint::BeforeHeaders),
             L"request error:http code - 0, message - Connection closed"}),
-    testsupport::NameOf<Failure>);
+    testsupport::RowName());
 
 TEST_F(NewUrlImageProviderTest, AFileThatIsThereIsDownloadedAgainAndOverwritten)
 {

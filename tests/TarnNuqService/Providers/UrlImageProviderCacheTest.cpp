@@ -1,5 +1,5 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/Providers/UrlImageProviderFixture.h"
+#include "support/NamedCase.h"
 
 #include <QImageReader>
 
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Contents, BrokenCacheFileTest,
         BrokenFile{{"TenGigabytesPromised"}, PromisingPng(50000, 50000)},
         BrokenFile{{"TheLargestPromise"}, PromisingPng(0x7fffffff, 0x7fffffff)},
         BrokenFile{{"NoPixels"}, PromisingPng(0, 0)}),
-    testsupport::NameOf<BrokenFile>);
+    testsupport::RowName());
 
 TEST_F(UrlImageProviderCacheTest, AHundredTimesMorePixelsThanBytesAreStillDecoded)
 {

@@ -1,7 +1,7 @@
-#include "TarnNuqService/EnvSvcs/NamedCase.h"
 #include "TarnNuqService/EnvSvcs/UnprivilegedUser.h"
 #include "TarnNuqService/Providers/UrlImageProviderFixture.h"
 #include "support/FileSizeLimit.h"
+#include "support/NamedCase.h"
 #include "support/ReplyFetcher.h"
 
 #include <QTcpServer>
@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, GoodAnswerTest,
             PromisingPng(50000, 50000), {}},
         GoodAnswer{{"ManyPixelsInFewBytes"}, ScriptedResponse::Status(200, PngBomb(3000, 2000)), PngBomb(3000, 2000),
             {3000, 2000}}),
-    testsupport::NameOf<GoodAnswer>);
+    testsupport::RowName());
 
 TEST_P(FailedAnswerTest, IsANullPointerAndLeavesNoFileAndIsAskedForAgain)
 {
@@ -145,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, FailedAnswerTest,
         FailedAnswer{{"ShorterThanItsLength"}, ScriptedResponse::Status(200, Png).WithDeclaredLength(Png.size() + 1)},
         FailedAnswer{
             {"BrokenCompression"}, ScriptedResponse::Status(200, "no gzip").WithHeader("Content-Encoding", "gzip")}),
-    testsupport::NameOf<FailedAnswer>);
+    testsupport::RowName());
 
 TEST_F(UrlImageProviderDownloadTest, NothingIsAnsweredInsideTheCall)
 {

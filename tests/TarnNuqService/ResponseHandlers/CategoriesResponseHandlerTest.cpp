@@ -2,10 +2,11 @@
 
 #include "Records/ICategory.h"
 #include "TarnNuqService/ResponseHandlers/JsonShapes.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -230,14 +231,9 @@ INSTANTIATE_TEST_SUITE_P(, CategoriesMemberTest, testing::ValuesIn(Members()), R
 
 TEST_P(CategoriesMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    ICategory expected = GoodCategory();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray data{With(GoodObject(), GetParam().name, shape.value)};
-        const auto categories = Map<CategoriesResponseHandler>(JsonText(data));
-        ASSERT_THAT(categories, SizeIs(1));
-        EXPECT_EQ(Describe(categories[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodObject(), GoodCategory(), [this](const QJsonObject& object) {
+        return Only(Map<CategoriesResponseHandler>(JsonText(QJsonArray{object})));
+    });
 }
 
 class CategoriesNumberTest : public HandlerFixture, public testing::WithParamInterface<NumberRow>

@@ -2,10 +2,11 @@
 
 #include "Records/ICategoryMapping.h"
 #include "TarnNuqService/ResponseHandlers/JsonShapes.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -157,14 +158,9 @@ INSTANTIATE_TEST_SUITE_P(, CategoryMappingsMemberTest, testing::ValuesIn(Members
 
 TEST_P(CategoryMappingsMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    ICategoryMapping expected = GoodMapping();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray data{With(GoodObject(), GetParam().name, shape.value)};
-        const auto mappings = Map<CategoryMappingsResponseHandler>(JsonText(data));
-        ASSERT_THAT(mappings, SizeIs(1));
-        EXPECT_EQ(Describe(mappings[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodObject(), GoodMapping(), [this](const QJsonObject& object) {
+        return Only(Map<CategoryMappingsResponseHandler>(JsonText(QJsonArray{object})));
+    });
 }
 
 class CategoryMappingsNumberTest : public HandlerFixture, public testing::WithParamInterface<NumberRow>

@@ -3,9 +3,10 @@
 #include "Records/ICategoryProperty.h"
 #include "Records/IParameterDefinition.h"
 #include "TarnNuqService/ResponseHandlers/DefinitionSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -193,13 +194,8 @@ INSTANTIATE_TEST_SUITE_P(, CategoryPropertyMemberTest, testing::ValuesIn(Members
 
 TEST_P(CategoryPropertyMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    ICategoryProperty expected = GoodProperty();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const auto property =
-            Map<CategoryPropertyResponseHandler>(JsonText(With(GoodObject(), GetParam().name, shape.value)));
-        EXPECT_EQ(Describe(property), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodObject(), GoodProperty(),
+        [this](const QJsonObject& object) { return Map<CategoryPropertyResponseHandler>(JsonText(object)); });
 }
 
 class CategoryPropertyDefinitionTest : public HandlerFixture,
@@ -211,16 +207,11 @@ INSTANTIATE_TEST_SUITE_P(, CategoryPropertyDefinitionTest, testing::ValuesIn(Def
 
 TEST_P(CategoryPropertyDefinitionTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IParameterDefinition expected = GoodDefinition();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray list{With(GoodDefinitionObject(), GetParam().name, shape.value)};
-        const auto property =
-            Map<CategoryPropertyResponseHandler>(JsonText(QJsonObject{{QStringLiteral("propertyList"), list}}));
-        ASSERT_NE(property, nullptr);
-        ASSERT_THAT(property->ParameterDefinitions, ElementsAre(Key(expected.Name)));
-        EXPECT_EQ(Describe(property->ParameterDefinitions.at(expected.Name)), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodDefinitionObject(), GoodDefinition(), [this](const QJsonObject& object) {
+        const QJsonObject data{{QStringLiteral("propertyList"), QJsonArray{object}}};
+        const auto property = Map<CategoryPropertyResponseHandler>(JsonText(data));
+        return property ? Only(property->ParameterDefinitions) : nullptr;
+    });
 }
 
 TEST_P(CategoryPropertyDefinitionTest, IsReadFromItsOwnKeyAlone)

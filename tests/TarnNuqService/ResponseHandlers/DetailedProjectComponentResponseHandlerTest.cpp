@@ -2,10 +2,11 @@
 
 #include "Records/IDetailedProjectComponent.h"
 #include "TarnNuqService/ResponseHandlers/ComponentSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -182,13 +183,8 @@ INSTANTIATE_TEST_SUITE_P(, DetailedProjectComponentMemberTest, testing::ValuesIn
 
 TEST_P(DetailedProjectComponentMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IDetailedProjectComponent expected = GoodDetailedComponent();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const auto component =
-            Map<DetailedProjectComponentResponseHandler>(JsonText(With(GoodObject(), GetParam().name, shape.value)));
-        EXPECT_EQ(Describe(component), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodObject(), GoodDetailedComponent(),
+        [this](const QJsonObject& object) { return Map<DetailedProjectComponentResponseHandler>(JsonText(object)); });
 }
 
 class DetailedProjectComponentIdTest : public HandlerFixture, public testing::WithParamInterface<IdRow>

@@ -1,9 +1,10 @@
 #include "ResponseHandlers/LegendsResponseHandler.h"
 
 #include "TarnNuqService/ResponseHandlers/LegendSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -82,14 +83,8 @@ INSTANTIATE_TEST_SUITE_P(, LegendsMemberTest, testing::ValuesIn(LegendMembers())
 
 TEST_P(LegendsMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    ILegend expected = GoodListLegend();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray data{With(GoodLegendObject(), GetParam().name, shape.value)};
-        const auto legends = Map<LegendsResponseHandler>(JsonText(data));
-        ASSERT_THAT(legends, SizeIs(1));
-        EXPECT_EQ(Describe(legends[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodLegendObject(), GoodListLegend(),
+        [this](const QJsonObject& object) { return Only(Map<LegendsResponseHandler>(JsonText(QJsonArray{object}))); });
 }
 
 class LegendsViewTest : public HandlerFixture, public testing::WithParamInterface<ViewRow>

@@ -1,10 +1,11 @@
 #include "ResponseHandlers/PagedLegendsResponseHandler.h"
 
 #include "TarnNuqService/ResponseHandlers/LegendSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -124,14 +125,8 @@ INSTANTIATE_TEST_SUITE_P(, PagedLegendsMemberTest, testing::ValuesIn(LegendMembe
 
 TEST_P(PagedLegendsMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    ILegend expected = GoodLegend();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const auto page =
-            Map<PagedLegendsResponseHandler>(Page({With(GoodLegendObject(), GetParam().name, shape.value)}));
-        ASSERT_THAT(page.List, SizeIs(1));
-        EXPECT_EQ(Describe(page.List[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodLegendObject(), GoodLegend(),
+        [this](const QJsonObject& object) { return Only(Map<PagedLegendsResponseHandler>(Page({object})).List); });
 }
 
 class PagedLegendsViewTest : public HandlerFixture, public testing::WithParamInterface<ViewRow>

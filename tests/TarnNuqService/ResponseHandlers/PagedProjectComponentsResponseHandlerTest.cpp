@@ -2,10 +2,11 @@
 
 #include "Records/IProjectComponent.h"
 #include "TarnNuqService/ResponseHandlers/ComponentSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -135,14 +136,9 @@ INSTANTIATE_TEST_SUITE_P(, PagedProjectComponentsMemberTest, testing::ValuesIn(C
 
 TEST_P(PagedProjectComponentsMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IProjectComponent expected = GoodComponent();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const auto page = Map<PagedProjectComponentsResponseHandler>(
-            Page({With(GoodComponentObject(), GetParam().name, shape.value)}));
-        ASSERT_THAT(page.List, SizeIs(1));
-        EXPECT_EQ(Describe(page.List[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodComponentObject(), GoodComponent(), [this](const QJsonObject& object) {
+        return Only(Map<PagedProjectComponentsResponseHandler>(Page({object})).List);
+    });
 }
 
 class PagedProjectComponentsNumberTest : public HandlerFixture, public testing::WithParamInterface<NumberRow>

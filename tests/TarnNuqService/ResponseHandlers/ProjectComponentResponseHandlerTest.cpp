@@ -2,10 +2,11 @@
 
 #include "Records/IProjectComponent.h"
 #include "TarnNuqService/ResponseHandlers/ComponentSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/NumberRow.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -87,13 +88,8 @@ INSTANTIATE_TEST_SUITE_P(, ProjectComponentMemberTest, testing::ValuesIn(Compone
 
 TEST_P(ProjectComponentMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IProjectComponent expected = GoodSingleComponent();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const auto component =
-            Map<ProjectComponentResponseHandler>(JsonText(With(GoodComponentObject(), GetParam().name, shape.value)));
-        EXPECT_EQ(Describe(component), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodComponentObject(), GoodSingleComponent(),
+        [this](const QJsonObject& object) { return Map<ProjectComponentResponseHandler>(JsonText(object)); });
 }
 
 class ProjectComponentIdTest : public HandlerFixture, public testing::WithParamInterface<IdRow>

@@ -2,9 +2,10 @@
 
 #include "Records/IProjectComponent.h"
 #include "TarnNuqService/ResponseHandlers/ComponentSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -83,14 +84,9 @@ INSTANTIATE_TEST_SUITE_P(, ProjectComponentsMemberTest, testing::ValuesIn(Compon
 
 TEST_P(ProjectComponentsMemberTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IProjectComponent expected = GoodComponent();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray data{With(GoodComponentObject(), GetParam().name, shape.value)};
-        const auto components = Map<ProjectComponentsResponseHandler>(JsonText(data));
-        ASSERT_THAT(components, SizeIs(1));
-        EXPECT_EQ(Describe(components[0]), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodComponentObject(), GoodComponent(), [this](const QJsonObject& object) {
+        return Only(Map<ProjectComponentsResponseHandler>(JsonText(QJsonArray{object})));
+    });
 }
 
 class ProjectComponentsIdTest : public HandlerFixture, public testing::WithParamInterface<IdRow>

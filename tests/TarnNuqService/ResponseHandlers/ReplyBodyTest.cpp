@@ -1,6 +1,6 @@
 #include "TarnNuqService/ResponseHandlers/HandlerBranch.h"
 #include "TarnNuqService/ResponseHandlers/HandlerFixture.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
+#include "support/NamedCase.h"
 
 #include <QCoreApplication>
 #include <QJsonParseError>

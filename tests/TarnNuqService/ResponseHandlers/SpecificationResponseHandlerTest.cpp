@@ -1,10 +1,11 @@
 #include "ResponseHandlers/SpecificationResponseHandler.h"
 
 #include "TarnNuqService/ResponseHandlers/DefinitionSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
 #include "TarnNuqService/ResponseHandlers/SpecificationSample.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -264,16 +265,11 @@ INSTANTIATE_TEST_SUITE_P(, SpecificationDefinitionTest, testing::ValuesIn(Defini
 
 TEST_P(SpecificationDefinitionTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IParameterDefinition expected = GoodDefinition();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray list{With(GoodDefinitionObject(), GetParam().name, shape.value)};
-        const auto specification =
-            Map<SpecificationResponseHandler>(JsonText(QJsonObject{{QStringLiteral("parameters"), list}}));
-        ASSERT_NE(specification, nullptr);
-        ASSERT_THAT(specification->Parameters, ElementsAre(Key(expected.Name)));
-        EXPECT_EQ(Describe(specification->Parameters.at(expected.Name)->Definition), Describe(expected)) << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodDefinitionObject(), GoodDefinition(), [this](const QJsonObject& object) {
+        const QJsonObject data{{QStringLiteral("parameters"), QJsonArray{object}}};
+        const auto specification = Map<SpecificationResponseHandler>(JsonText(data));
+        return specification ? Only(specification->Parameters) : nullptr;
+    });
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 #include "ResponseHandlers/SpecificationsResponseHandler.h"
 
 #include "TarnNuqService/ResponseHandlers/DefinitionSample.h"
+#include "TarnNuqService/ResponseHandlers/MemberCheck.h"
 #include "TarnNuqService/ResponseHandlers/MemoryFixture.h"
 #include "TarnNuqService/ResponseHandlers/RecordText.h"
-#include "TarnNuqService/ResponseHandlers/RowName.h"
 #include "TarnNuqService/ResponseHandlers/SpecificationSample.h"
+#include "support/NamedCase.h"
 
 #include <gmock/gmock.h>
 
@@ -201,17 +202,12 @@ INSTANTIATE_TEST_SUITE_P(, SpecificationsDefinitionTest, testing::ValuesIn(Defin
 
 TEST_P(SpecificationsDefinitionTest, MissingOrOfAnotherTypeIsItsDefault)
 {
-    IParameterDefinition expected = GoodDefinition();
-    GetParam().reset(expected);
-    for (const JsonShape& shape : ShapesExcept(GetParam().accepted)) {
-        const QJsonArray list{With(GoodDefinitionObject(), GetParam().name, shape.value)};
-        const auto specifications = Map<SpecificationsResponseHandler>(JsonText(QJsonObject{
-            {QStringLiteral("parameters"), list}, {QStringLiteral("familyTypes"), QJsonArray{QJsonObject()}}}));
-        ASSERT_THAT(specifications, SizeIs(1));
-        ASSERT_THAT(specifications[0]->Parameters, ElementsAre(Key(expected.Name)));
-        EXPECT_EQ(Describe(specifications[0]->Parameters.at(expected.Name)->Definition), Describe(expected))
-            << shape.name;
-    }
+    ExpectDefaultForOtherTypes(GetParam(), GoodDefinitionObject(), GoodDefinition(), [this](const QJsonObject& object) {
+        const QJsonObject data{{QStringLiteral("parameters"), QJsonArray{object}},
+            {QStringLiteral("familyTypes"), QJsonArray{QJsonObject()}}};
+        const auto specification = Only(Map<SpecificationsResponseHandler>(JsonText(data)));
+        return specification ? Only(specification->Parameters) : nullptr;
+    });
 }
 
 } // namespace

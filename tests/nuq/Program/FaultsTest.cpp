@@ -1,3 +1,4 @@
+#include "support/NamedCase.h"
 #include "support/NuqFixture.h"
 
 #include <QDir>
@@ -14,20 +15,14 @@ using CutAction = ScriptedResponse::CutAction;
 
 const QByteArray kGood = Envelope("[]");
 
-struct Fault
+struct Fault : testsupport::NamedCase
 {
-    const char* name;
     std::function<ScriptedResponse()> answer;
     int exitCode;
     const char* code;
     const char* english; ///< behind "The projects could not be loaded. "
     const char* chinese;
 };
-
-void PrintTo(const Fault& fault, std::ostream* out)
-{
-    *out << fault.name;
-}
 
 class FaultsTest : public NuqFixture, public ::testing::WithParamInterface<Fault>
 {
@@ -95,8 +90,7 @@ const std::vector<Fault> kFaults = {
         "network.timeout", "127.0.0.1:PORT did not answer in time.", "127.0.0.1:PORT 未在规定时间内应答。"},
 };
 
-INSTANTIATE_TEST_SUITE_P(EachCause, FaultsTest, ::testing::ValuesIn(kFaults),
-    [](const ::testing::TestParamInfo<Fault>& parameter) { return parameter.param.name; });
+INSTANTIATE_TEST_SUITE_P(EachCause, FaultsTest, ::testing::ValuesIn(kFaults), testsupport::RowName());
 
 using SingleFaultTest = NuqFixture;
 
