@@ -56,6 +56,14 @@ void Harden(const Connection& connection)
     connection.Run(QStringLiteral("PRAGMA cell_size_check = ON"));
 }
 
+/// The engine takes what is missing at the end for zeros.
+bool IsCut(const Connection& connection, const QString& path)
+{
+    const qint64 size =
+        connection.Number(QStringLiteral("PRAGMA page_count")) * connection.Number(QStringLiteral("PRAGMA page_size"));
+    return !HasPendingWrites(path) && QFileInfo(path).size() < size;
+}
+
 /// Throws SqlFault.
 DatabaseReason CheckContent(const Connection& connection, const QString& path)
 {
@@ -65,6 +73,9 @@ DatabaseReason CheckContent(const Connection& connection, const QString& path)
     const int version = VersionOf(connection);
     if (version > LatestVersion()) {
         return NewerReason(path, version, LatestVersion());
+    }
+    if (IsCut(connection, path)) {
+        return DamagedReason(path, QStringLiteral("its end is missing"));
     }
     const QString fault = connection.Text(QStringLiteral("PRAGMA quick_check(1)"));
     if (fault != QLatin1String("ok")) {
