@@ -44,9 +44,7 @@ ImageProbe::~ImageProbe()
 
 void ImageProbe::Start()
 {
-    QNetworkRequest request(m_address);
-    request.setRawHeader("Accept-Encoding", "identity"); // Qt forgets the length of what it unpacks
-    m_reply = m_channel.Manager().get(request);
+    m_reply = m_channel.Manager().get(QNetworkRequest(m_address));
     connect(m_reply, &QNetworkReply::finished, this, &ImageProbe::OnFinished);
     m_timeLimit.start(m_channel.Settings().timeLimit);
 }
