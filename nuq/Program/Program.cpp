@@ -11,6 +11,7 @@
 #include "Program/ErrorDocument.h"
 #include "Program/Proxies.h"
 #include "Program/Session.h"
+#include "Program/StandardStreams.h"
 
 #include <QCoreApplication>
 
@@ -95,6 +96,7 @@ ExitCode Act(const Commands& commands, const ParsedCommandLine& parsed, const Gl
 
 int RunProgram(int argc, char* argv[])
 {
+    HoldStandardStreams();
     const std::vector<std::string> arguments = ArgumentsOf(argc, argv);
     QCoreApplication application(argc, argv);
     // The only plug-ins that a console program would load are those that ask the desktop's network manager over D-Bus

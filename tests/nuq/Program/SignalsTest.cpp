@@ -98,6 +98,14 @@ TEST_F(PipesTest, AClosedPipeIsNoError)
     }
 }
 
+TEST_F(PipesTest, AClosedStreamIsNotTakenByAnythingElse)
+{
+    OnData("/v1/projects", "[]");
+    const auto [out, err] = InShell(QStringLiteral("nuq projects >&-; echo $?; nuq projects <&- 2>&-; echo $?"));
+    EXPECT_EQ(out, "1\nID  NAME\n0\n");
+    EXPECT_EQ(err, "nuq: The output could not be written: Bad file descriptor.\n");
+}
+
 TEST_F(PipesTest, CtrlCEndsAListWhoseReaderIsSlow)
 {
     auto process = runner.Start({"components", "--all", "--json", "--stream"});
