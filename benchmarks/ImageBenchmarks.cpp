@@ -59,23 +59,24 @@ Cost Fetch(FetchBatch fetch, const QString& base, int count)
     return fetch(MakeBatch(base, count));
 }
 
+void RegisterBatch(const std::string& name, FetchBatch fetch, const QString& base, int count, double Cost::*cost)
+{
+    benchmark::RegisterBenchmark((name + "/" + std::to_string(count)).c_str(),
+        [=](benchmark::State& state) {
+            for (auto _ : state) {
+                state.SetIterationTime(Fetch(fetch, base, count).*cost);
+            }
+        })
+        ->UseManualTime()
+        ->Unit(benchmark::kMicrosecond);
+}
+
 void RegisterBatches(const QString& base)
 {
     for (const int count : {1, 10, 100, 1000}) {
         for (const auto& [by, fetch] : Clients) {
-            const auto add = [&, client = fetch](const std::string& subject, double Cost::*cost) {
-                const std::string name = subject + "/" + by + "/" + std::to_string(count);
-                benchmark::RegisterBenchmark(name.c_str(),
-                    [=](benchmark::State& state) {
-                        for (auto _ : state) {
-                            state.SetIterationTime(Fetch(client, base, count).*cost);
-                        }
-                    })
-                    ->UseManualTime()
-                    ->Unit(benchmark::kMicrosecond);
-            };
-            add("thumbnails", &Cost::wall);
-            add("thumbnails-cpu", &Cost::cpu);
+            RegisterBatch("thumbnails/" + by, fetch, base, count, &Cost::wall);
+            RegisterBatch("thumbnails-cpu/" + by, fetch, base, count, &Cost::cpu);
         }
     }
 }

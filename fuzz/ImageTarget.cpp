@@ -71,7 +71,7 @@ private:
         if (m_images.size() != 1 || !m_images.front()) {
             std::abort();
         }
-        const std::shared_ptr<QImage> image = m_images.front();
+        std::shared_ptr<QImage> image = m_images.front();
         m_images.clear();
         return image;
     }
