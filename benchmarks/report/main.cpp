@@ -21,6 +21,9 @@ const std::vector<std::vector<std::string>> columnOrders{
     {"base", "handle"},
     {"bare", "nuq-cloud", "files", "bare-decoding", "images", "curl"},
     {"load", "provider"},
+    {"floor", "kernel"},
+    {"read", "work-out"},
+    {"shaded"},
 };
 
 std::vector<std::string> Columns(const std::map<std::string, BySize>& subject)
