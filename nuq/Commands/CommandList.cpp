@@ -7,11 +7,15 @@
 #include "Commands/DoctorCommand.h"
 #include "Commands/EnvCommand.h"
 #include "Commands/ExistsCommand.h"
+#include "Commands/LegendsCommand.h"
+#include "Commands/MappingsCommand.h"
 #include "Commands/ProjectsCommand.h"
 #include "Commands/PropertiesCommand.h"
+#include "Commands/SearchCommand.h"
 #include "Commands/SpecificationsCommand.h"
 #include "Commands/ThumbnailCommand.h"
 #include "Commands/TourCommand.h"
+#include "Commands/TreeCommand.h"
 #include "Commands/VersionCommand.h"
 
 namespace nuq {
@@ -26,6 +30,10 @@ Commands MakeCommands()
     commands.push_back(std::make_unique<ThumbnailCommand>());
     commands.push_back(std::make_unique<SpecificationsCommand>());
     commands.push_back(std::make_unique<PropertiesCommand>());
+    commands.push_back(std::make_unique<TreeCommand>());
+    commands.push_back(std::make_unique<SearchCommand>());
+    commands.push_back(std::make_unique<LegendsCommand>());
+    commands.push_back(std::make_unique<MappingsCommand>());
     commands.push_back(std::make_unique<ProjectsCommand>());
     commands.push_back(std::make_unique<ExistsCommand>());
     commands.push_back(std::make_unique<EnvCommand>());

@@ -1,10 +1,11 @@
 #include "Commands/PropertiesCommand.h"
 
-#include "CommandLine/UsageError.h"
+#include "Commands/LocalLibrary.h"
 #include "Commands/RecordJson.h"
 #include "Commands/Texts.h"
 #include "Output/VisibleText.h"
 #include "Program/Session.h"
+#include "PropertySvcs/PropertyService.h"
 #include "Records/ICategoryProperty.h"
 
 namespace nuq {
@@ -46,6 +47,18 @@ void WriteDocument(Session& session, const QString& code, const ICategoryPropert
     session.WriteDocument(json);
 }
 
+ExitCode Show(Session& session, const QString& code, const ICategoryProperty& property)
+{
+    if (session.Options().json)
+        WriteDocument(session, code, property);
+    else
+        ShowTable(session, property);
+    if (property.ParameterDefinitions.empty())
+        session.Note(
+            Say(QT_TRANSLATE_NOOP("Messages", "The category has no properties of its own; end categories have them.")));
+    return ExitCode::Done;
+}
+
 } // namespace
 
 const CommandSpec& PropertiesCommand::Spec() const
@@ -54,12 +67,13 @@ const CommandSpec& PropertiesCommand::Spec() const
     static const CommandSpec spec = {
         "properties",
         QT_TRANSLATE_NOOP("CommandTable", "Show the properties that components of a category have"),
-        "",
+        QT_TRANSLATE_NOOP("CommandTable", "By default from the library on this machine, which needs no network and lists the properties of types alone."),
         {{"CODE", QT_TRANSLATE_NOOP("CommandTable", "The code of the category")}},
         {
             {"--cloud", "", "", QT_TRANSLATE_NOOP("CommandTable", "Take the property template of the cloud")},
         },
         {
+            {"nuq properties WAT.PIPE.GALV", QT_TRANSLATE_NOOP("CommandTable", "the properties of an end category")},
             {"nuq properties CODE --cloud", QT_TRANSLATE_NOOP("CommandTable", "the template of an end category")},
         },
     };
@@ -73,27 +87,23 @@ void PropertiesCommand::Bind(OptionBinder& binder)
     binder.Switch("--cloud", m_options.cloud);
 }
 
-void PropertiesCommand::Check() const
+ExitCode PropertiesCommand::Run(Session& session)
 {
-    if (!m_options.cloud)
-        throw UsageError(Say(QT_TRANSLATE_NOOP(
-            "Messages", "The command \"properties\" needs --cloud: this program has no local property database.")));
+    if (m_options.cloud)
+        return RunInCloud(session);
+    if (!HasLocalLibrary(session))
+        return FailLocally(session);
+    const auto property = tarnnuq::PropertyService::Get()->GetCategoryProperty(m_options.code.toStdWString());
+    return property == nullptr ? FailUnknownCategory(session, m_options.code)
+                               : Show(session, m_options.code, *property);
 }
 
-ExitCode PropertiesCommand::Run(Session& session)
+ExitCode PropertiesCommand::RunInCloud(Session& session)
 {
     const auto request = session.Catalogue().PropertyTemplate(m_options.code);
     if (!session.Await(*request))
         return session.Fail(request->Error());
-    const ICategoryProperty& property = *request->Result();
-    if (session.Options().json)
-        WriteDocument(session, m_options.code, property);
-    else
-        ShowTable(session, property);
-    if (property.ParameterDefinitions.empty())
-        session.Note(
-            Say(QT_TRANSLATE_NOOP("Messages", "The category has no properties of its own; end categories have them.")));
-    return ExitCode::Done;
+    return Show(session, m_options.code, *request->Result());
 }
 
 } // namespace nuq

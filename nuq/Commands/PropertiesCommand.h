@@ -6,16 +6,17 @@
 
 namespace nuq {
 
-/** Shows the property definitions of a category. */
+/** Shows the property definitions of a category, from the library on this machine or from the cloud. */
 class PropertiesCommand final : public Command
 {
 public:
     const CommandSpec& Spec() const override;
     void Bind(OptionBinder& binder) override;
-    void Check() const override;
     ExitCode Run(Session& session) override;
 
 private:
+    ExitCode RunInCloud(Session& session);
+
     struct Options
     {
         QString code;

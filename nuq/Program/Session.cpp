@@ -30,6 +30,7 @@ standalone::StandaloneHostOptions HostOptions(const GlobalOptions& options)
     host.programName = QStringLiteral("nuq");
     host.appDir = options.applicationFolder;
     host.environment = options.environment;
+    host.language = options.language;
     // The sentences of the program say what went wrong; the log would say it a second time.
     host.consoleLevel = options.verbosity < 2    ? standalone::LogLevel::Off
                         : options.verbosity == 2 ? standalone::LogLevel::Info

@@ -407,6 +407,90 @@
         <source>into the cache only, and say where it lies</source>
         <translation>只放入缓存，并说明其位置</translation>
     </message>
+    <message>
+        <source>Show the category tree of the library on this machine</source>
+        <translation>显示本机组件库的分类树</translation>
+    </message>
+    <message>
+        <source>Needs no network. The disciplines stand at the left, their categories and end categories below them.</source>
+        <translation>无需网络。专业位于最左侧，其下为分类和末级分类。</translation>
+    </message>
+    <message>
+        <source>Show only the category with this code and those beneath it</source>
+        <translation>只显示此编码的分类及其下级</translation>
+    </message>
+    <message>
+        <source>the end categories of a discipline, for a script</source>
+        <translation>某专业的末级分类，供脚本使用</translation>
+    </message>
+    <message>
+        <source>Search the library on this machine</source>
+        <translation>搜索本机组件库</translation>
+    </message>
+    <message>
+        <source>Needs no network. Finds disciplines, categories and components by code, Chinese or English name, pinyin or its initials, family types and values, best first. All words of the text have to occur.</source>
+        <translation>无需网络。按编码、中英文名称、拼音或首字母、族类型和参数值查找专业、分类和组件，最匹配者在前。所有词都须出现。</translation>
+    </message>
+    <message>
+        <source>What to search for, in either language</source>
+        <translation>要搜索的内容，中英文均可</translation>
+    </message>
+    <message>
+        <source>List this many at most; 20 by default</source>
+        <translation>最多列出的数量；默认 20</translation>
+    </message>
+    <message>
+        <source>pumps, by their Chinese name</source>
+        <translation>按中文名称查找水泵</translation>
+    </message>
+    <message>
+        <source>the same by its sound; "sb" by its initials</source>
+        <translation>按拼音查找；“sb”为首字母</translation>
+    </message>
+    <message>
+        <source>codes, for a script</source>
+        <translation>编码，供脚本使用</translation>
+    </message>
+    <message>
+        <source>List the legends of a category, its placeholder drawings</source>
+        <translation>列出分类的图例（占位图）</translation>
+    </message>
+    <message>
+        <source>By default from the library on this machine, which needs no network.</source>
+        <translation>默认取自本机组件库，无需网络。</translation>
+    </message>
+    <message>
+        <source>By default from the library on this machine, which needs no network and lists the properties of types alone.</source>
+        <translation>默认取自本机组件库，无需网络，且只列出类型属性。</translation>
+    </message>
+    <message>
+        <source>the properties of an end category</source>
+        <translation>末级分类的属性</translation>
+    </message>
+    <message>
+        <source>Only the legends of this view; by default of all three</source>
+        <translation>只列此视图的图例；默认三个视图都列</translation>
+    </message>
+    <message>
+        <source>Take the legends of the cloud</source>
+        <translation>取云端的图例</translation>
+    </message>
+    <message>
+        <source>the plan legends of an end category</source>
+        <translation>末级分类的平面图例</translation>
+    </message>
+    <message>
+        <source>addresses of the pictures, for a script</source>
+        <translation>图片地址，供脚本使用</translation>
+    </message>
+    <message>
+        <source>List how the cloud's categories map onto the component editor's</source>
+        <translation>列出云端分类与构件编辑器分类的对应关系</translation>
+    </message>
+    <message>
+        <source>codes and editor ids, for a script</source>
+        <translation>编码和编辑器编号，供脚本使用</translation>
+    </message>
 </context>
 <context>
     <name>ErrorDetails</name>
@@ -577,10 +661,6 @@
         <translation>故障：%1。警告：%2。</translation>
     </message>
     <message>
-        <source>The command "properties" needs --cloud: this program has no local property database.</source>
-        <translation>命令“properties”需要 --cloud：本程序没有本地属性数据库。</translation>
-    </message>
-    <message>
         <source>The category has no properties of its own; end categories have them.</source>
         <translation>该类别没有自己的属性；末级类别才有。</translation>
     </message>
@@ -707,6 +787,30 @@
     <message>
         <source>The file "%1" could not be written: %2.</source>
         <translation>无法写入文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The environment variable NUQ_LIBRARY or the setting "library" names the folder of the library.</source>
+        <translation>环境变量 NUQ_LIBRARY 或设置项“library”指定组件库所在文件夹。</translation>
+    </message>
+    <message>
+        <source>The library on this machine has no category "%1".</source>
+        <translation>本机组件库中没有分类“%1”。</translation>
+    </message>
+    <message>
+        <source>"nuq tree" lists the categories.</source>
+        <translation>“nuq tree”可列出所有分类。</translation>
+    </message>
+    <message>
+        <source>Nothing in the library on this machine matches "%1".</source>
+        <translation>本机组件库中没有与“%1”匹配的内容。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are listed; --limit lists more.</source>
+        <translation>已列出 %2 项中的 %1 项；用 --limit 可列出更多。</translation>
+    </message>
+    <message>
+        <source>The category has no legends; end categories have them.</source>
+        <translation>该分类没有图例；末级分类才有。</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1033,62 @@
     <message>
         <source>File</source>
         <translation>文件</translation>
+    </message>
+    <message>
+        <source>KIND</source>
+        <translation>种类</translation>
+    </message>
+    <message>
+        <source>FOUND BY</source>
+        <translation>匹配依据</translation>
+    </message>
+    <message>
+        <source>VIEW</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>PICTURE</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>EDITOR ID</source>
+        <translation>编辑器编号</translation>
+    </message>
+    <message>
+        <source>MAJOR</source>
+        <translation>专业</translation>
+    </message>
+    <message>
+        <source>NAMES</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>编码</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>pinyin</source>
+        <translation>拼音</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>参数值</translation>
+    </message>
+    <message>
+        <source>discipline</source>
+        <translation>专业</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>分类</translation>
+    </message>
+    <message>
+        <source>component</source>
+        <translation>组件</translation>
     </message>
 </context>
 </TS>

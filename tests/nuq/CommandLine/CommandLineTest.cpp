@@ -58,7 +58,6 @@ TEST(CommandLine, SaysWhatIsWrong)
         {{"components", "--all", "--page", "2"}, "--all and --page cannot be used together."},
         {{"components", "--stream"}, "--stream needs --all."},
         {{"categories", "--tree", "--service"}, "--tree and --service cannot be used together."},
-        {{"properties", "X"}, "The command \"properties\" needs --cloud: this program has no local property database."},
         {{"env", "--timeout", "0"}, "The value of --timeout has to be a whole number from 1 to 3600, but it is \"0\"."},
         {{"env", "--lang", "fr"}, "The value of --lang has to be one of en, zh, but it is \"fr\"."},
         {{"env", "--color=maybe"}, "The value of --color has to be one of auto, always, never, but it is \"maybe\"."},

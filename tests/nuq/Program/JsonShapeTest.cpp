@@ -1,5 +1,6 @@
 #include "TarnNuqService/Providers/ImageSample.h"
 #include "support/NuqFixture.h"
+#include "support/SmallLibrary.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -87,6 +88,8 @@ protected:
         OnData("/v1/components/C105801-001/specifications/A",
             "{\"parameters\":[" + definition + R"(],"familyType":{"name":"A","parameterValues":[]}})");
         OnData("/v1/categories/WAT.PIPE.GALV/properties", "{\"categoryId\":1,\"propertyList\":[" + definition + "]}");
+        OnData("/v1/hox_design/category/mappings", R"([{"categoryId":1,"categoryCode":"W","name":["n"],"major":0}])");
+        WriteSmallLibrary(runner.ApplicationFolder(), QStringLiteral("WAT.PIPE.GALV"));
         OnData("/v1/projects", R"([{"id":"P","name":"N"}])");
         OnData("/v1/projects/P/components/existence", R"({"exist":true,"version":1})");
         server.On("/static/t",
@@ -97,7 +100,7 @@ protected:
 TEST_F(JsonShapeTest, IsTheDocumentedOneForEveryCommand)
 {
     const auto examples = Examples();
-    EXPECT_EQ(examples.size(), 18u);
+    EXPECT_EQ(examples.size(), 22u);
     for (const auto& [heading, example] : examples) {
         const QJsonDocument documented = QJsonDocument::fromJson(example.document);
         ASSERT_TRUE(documented.isObject()) << heading;
