@@ -581,4 +581,31 @@
         <translation>服务器的说明：%1</translation>
     </message>
 </context>
+<context>
+    <name>Families</name>
+    <message>
+        <source>The specification is not JSON (byte %1: %2).</source>
+        <translation>规格不是 JSON（第 %1 字节：%2）。</translation>
+    </message>
+    <message>
+        <source>A specification needs the member "values" with values by name, or "parameters" with ids.</source>
+        <translation>规格需要按名称给出值的成员“values”，或带标识的“parameters”。</translation>
+    </message>
+    <message>
+        <source>There is no specification in the list.</source>
+        <translation>列表中没有规格。</translation>
+    </message>
+    <message>
+        <source>The specification %1 cannot be read: %2.</source>
+        <translation>无法读取规格 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The specification %1 is larger than 16 MB.</source>
+        <translation>规格 %1 大于 16 MB。</translation>
+    </message>
+    <message>
+        <source>The family file could not be copied to check the copy: %1.</source>
+        <translation>无法复制族文件以检查其副本：%1。</translation>
+    </message>
+</context>
 </TS>

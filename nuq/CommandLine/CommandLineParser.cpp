@@ -1,5 +1,6 @@
 #include "CommandLine/CommandLineParser.h"
 
+#include "CommandLine/CommandGroups.h"
 #include "CommandLine/OptionValues.h"
 #include "CommandLine/Suggestion.h"
 #include "CommandLine/UsageError.h"
@@ -12,6 +13,7 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace nuq {
@@ -208,7 +210,23 @@ QString WithSuggestion(const QString& message, const QString& suggestion)
     throw UsageError(WithSuggestion(message, Suggestion(name, OptionNames(command))));
 }
 
-[[noreturn]] void ComplainAboutWord(const std::string& word, const Commands& commands, const Command* command)
+/// @param group whose command the word was meant to be; "" for none
+QStringList CommandNames(const Commands& commands, const std::string& group)
+{
+    QStringList names;
+    for (const auto& known : commands) {
+        if (group.empty() || GroupNameOf(*known) == group)
+            names << QString::fromLatin1(known->Spec().name);
+        // The group's word itself, once.
+        const QString first = QString::fromStdString(GroupNameOf(*known));
+        if (group.empty() && !first.isEmpty() && !names.contains(first))
+            names << first;
+    }
+    return names;
+}
+
+[[noreturn]] void ComplainAboutWord(
+    const std::string& word, const Commands& commands, const Command* command, const std::string& group)
 {
     const QString text = QString::fromStdString(word);
     if (command != nullptr) {
@@ -216,20 +234,28 @@ QString WithSuggestion(const QString& message, const QString& suggestion)
             Tr(QT_TRANSLATE_NOOP("CommandLine", "The command \"%1\" takes no further argument \"%2\"."));
         throw UsageError(message.arg(QString::fromLatin1(command->Spec().name), text));
     }
-    QStringList names;
-    for (const auto& known : commands)
-        names << QString::fromLatin1(known->Spec().name);
-    const QString message = Tr(QT_TRANSLATE_NOOP("CommandLine", "There is no command \"%1\".")).arg(text);
-    throw UsageError(WithSuggestion(message, Suggestion(text, names)));
+    const QString name = QString::fromStdString(group.empty() ? word : group + ' ' + word);
+    const QString message = Tr(QT_TRANSLATE_NOOP("CommandLine", "There is no command \"%1\".")).arg(name);
+    throw UsageError(WithSuggestion(message, Suggestion(name, CommandNames(commands, group))));
 }
 
-void CheckRemaining(const CLI::App& app, const Commands& commands, const Command* command)
+[[noreturn]] void ComplainAboutGroup(const Commands& commands, const std::string& group)
+{
+    QStringList words;
+    for (const std::string& word : WordsOfGroup(commands, group))
+        words << QString::fromStdString(word);
+    const QString message =
+        Tr(QT_TRANSLATE_NOOP("CommandLine", "The command \"%1\" needs one of these words behind it: %2."));
+    throw UsageError(message.arg(QString::fromStdString(group), words.join(QStringLiteral(", "))));
+}
+
+void CheckRemaining(const CLI::App& app, const Commands& commands, const Command* command, const std::string& group)
 {
     const std::vector<std::string> remaining = app.remaining(true);
     // An unknown command explains the unknown options behind it.
     for (const std::string& word : remaining) {
         if (command == nullptr && (word.empty() || word[0] != '-'))
-            ComplainAboutWord(word, commands, command);
+            ComplainAboutWord(word, commands, command, group);
     }
     for (const std::string& word : remaining) {
         // A known option can only be left over behind "--", where it is a word like any other.
@@ -237,7 +263,7 @@ void CheckRemaining(const CLI::App& app, const Commands& commands, const Command
         if (word.size() > 1 && word[0] == '-' && word != "--" && !isKnown)
             ComplainAboutOption(word, command);
         if (word != "--")
-            ComplainAboutWord(word, commands, command);
+            ComplainAboutWord(word, commands, command, group);
     }
 }
 
@@ -257,6 +283,65 @@ void Configure(CLI::App& app)
     app.allow_extras();
     app.fallthrough();
 }
+
+/// The applications that CLI11 has made for the commands and their groups.
+class CommandTree
+{
+public:
+    CommandTree(CLI::App& app, const Commands& commands)
+    {
+        for (const auto& command : commands)
+            Add(app, *command);
+    }
+
+    /// The command that was named, null for none.
+    Command* Named() const
+    {
+        for (const auto& [command, subcommand] : m_commands) {
+            if (subcommand->parsed())
+                return command;
+        }
+        return nullptr;
+    }
+
+    /// The group that was named, "" for none.
+    std::string NamedGroup() const
+    {
+        for (const auto& [name, subcommand] : m_groups) {
+            if (subcommand->parsed())
+                return name;
+        }
+        return std::string();
+    }
+
+    const CLI::App& AppOf(Command* command) const { return *m_commands.at(command); }
+
+private:
+    void Add(CLI::App& app, Command& command)
+    {
+        const std::string group = GroupNameOf(command);
+        CLI::App* subcommand = (group.empty() ? app : GroupApp(app, group)).add_subcommand(WordOf(command));
+        Configure(*subcommand);
+        CliBinder binder(*subcommand, command.Spec().options, command.Spec().arguments);
+        command.Bind(binder);
+        binder.CheckAllBound();
+        m_commands.emplace(&command, subcommand);
+    }
+
+    CLI::App& GroupApp(CLI::App& app, const std::string& name)
+    {
+        CLI::App*& group = m_groups[name];
+        if (group == nullptr) {
+            group = app.add_subcommand(name);
+            Configure(*group);
+            group->require_subcommand(0, 1);
+        }
+        return *group;
+    }
+
+    std::map<Command*, CLI::App*> m_commands;
+    std::map<std::string, CLI::App*> m_groups;
+};
 
 /// CLI11's own wording is English and technical; what can still go wrong here is a missing or superfluous value.
 [[noreturn]] void Complain(const CLI::ParseError& error)
@@ -287,24 +372,22 @@ ParsedCommandLine ParseCommandLine(const Commands& commands, const std::vector<s
     app.require_subcommand(0, 1);
     QString colour;
     BindGlobal(app, parsed.global, colour);
-    for (const auto& command : commands) {
-        CLI::App* subcommand = app.add_subcommand(command->Spec().name);
-        Configure(*subcommand);
-        CliBinder binder(*subcommand, command->Spec().options, command->Spec().arguments);
-        command->Bind(binder);
-        binder.CheckAllBound();
-    }
+    const CommandTree tree(app, commands);
     CheckOptionValues(commands, arguments);
     Parse(app, arguments);
     parsed.global.colour = ModeOf(colour);
-    for (const auto& command : commands) {
-        if (app.got_subcommand(command->Spec().name))
-            parsed.command = command.get();
+    parsed.command = tree.Named();
+    const std::string group = tree.NamedGroup();
+    CheckRemaining(app, commands, parsed.command, group);
+    if (parsed.global.wantsHelp) {
+        parsed.group = parsed.command == nullptr ? group : std::string();
+        return parsed;
     }
-    CheckRemaining(app, commands, parsed.command);
-    if (parsed.command != nullptr && !parsed.global.wantsHelp) {
-        CheckArguments(*app.get_subcommand(parsed.command->Spec().name), *parsed.command);
+    if (parsed.command != nullptr) {
+        CheckArguments(tree.AppOf(parsed.command), *parsed.command);
         parsed.command->Check();
+    } else if (!group.empty()) {
+        ComplainAboutGroup(commands, group);
     }
     return parsed;
 }

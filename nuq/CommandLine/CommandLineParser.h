@@ -16,6 +16,7 @@ struct ParsedCommandLine
 {
     GlobalOptions global;
     Command* command = nullptr; ///< null when none was given; owned by the list that was passed in
+    std::string group;          ///< the group that was named without a command of it; only together with --help
 };
 
 /**

@@ -1,5 +1,6 @@
 #include "CommandLine/HelpText.h"
 
+#include "CommandLine/CommandGroups.h"
 #include "Output/TextWidth.h"
 
 #include <QCoreApplication>
@@ -120,6 +121,23 @@ std::vector<Entry> OverviewExamples()
     return ExampleEntries(examples);
 }
 
+/// One line a command, and one for all commands of a group.
+std::vector<Entry> CommandEntries(const Commands& commands)
+{
+    std::vector<Entry> entries;
+    std::string last;
+    for (const auto& command : commands) {
+        const std::string name = GroupNameOf(*command);
+        const CommandGroup* const group = FindGroup(name);
+        if (group == nullptr)
+            entries.push_back({command->Spec().name, FromTable(command->Spec().summary)});
+        else if (name != last)
+            entries.push_back({name + " ...", FromTable(group->summary)});
+        last = name;
+    }
+    return entries;
+}
+
 } // namespace
 
 std::string SynopsisOf(const CommandSpec& spec)
@@ -135,13 +153,29 @@ std::string OverviewHelp(const Commands& commands)
     std::string help = Tr(QT_TRANSLATE_NOOP("HelpText", "nuq - the component library in the terminal"));
     help += "\n" + Block(Tr(QT_TRANSLATE_NOOP("HelpText", "Examples")), OverviewExamples());
     help += "\n" + Tr(QT_TRANSLATE_NOOP("HelpText", "Usage")) + "\n  nuq COMMAND [ARGUMENT]... [OPTION]...\n";
-    std::vector<Entry> entries;
-    for (const auto& command : commands)
-        entries.push_back({command->Spec().name, FromTable(command->Spec().summary)});
-    help += Block(Tr(QT_TRANSLATE_NOOP("HelpText", "Commands")), entries);
+    help += Block(Tr(QT_TRANSLATE_NOOP("HelpText", "Commands")), CommandEntries(commands));
     help += Block(Tr(QT_TRANSLATE_NOOP("HelpText", "Options of all commands")), OptionEntries(GlobalOptionSpecs()));
     help += "\n" + Tr(QT_TRANSLATE_NOOP("HelpText", "\"nuq COMMAND --help\" shows the options of a command.")) + "\n";
     return help;
+}
+
+std::string GroupHelp(const Commands& commands, const std::string& group)
+{
+    const CommandGroup& table = *FindGroup(group);
+    std::string help = FromTable(table.summary) + "\n\n" + Tr(QT_TRANSLATE_NOOP("HelpText", "Usage")) + "\n  nuq " +
+                       group + " COMMAND [ARGUMENT]... [OPTION]...\n";
+    if (*table.description != '\0')
+        help += "\n" + Wrapped(FromTable(table.description), 0) + "\n";
+    std::vector<Entry> entries;
+    for (const auto& command : commands) {
+        if (GroupNameOf(*command) == group)
+            entries.push_back({WordOf(*command), FromTable(command->Spec().summary)});
+    }
+    help += Block(Tr(QT_TRANSLATE_NOOP("HelpText", "Commands")), entries);
+    //: %1 is the first word of commands that are called by two
+    const QString hint =
+        QCoreApplication::translate("HelpText", "\"nuq %1 COMMAND --help\" shows the options of a command.");
+    return help + "\n" + hint.arg(QString::fromStdString(group)).toStdString() + "\n";
 }
 
 std::string CommandHelp(const Command& command)

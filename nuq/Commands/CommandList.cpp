@@ -7,8 +7,20 @@
 #include "Commands/DoctorCommand.h"
 #include "Commands/EnvCommand.h"
 #include "Commands/ExistsCommand.h"
+<<<<<<< nuq/Commands/CommandList.cpp
+#include "Commands/FamilyCheckCommand.h"
+#include "Commands/FamilyDrawCommand.h"
+#include "Commands/FamilyExportCommand.h"
+#include "Commands/FamilyNewCommand.h"
+#include "Commands/FamilyRenderCommand.h"
+#include "Commands/FamilySheetCommand.h"
+#include "Commands/FamilyShowCommand.h"
+#include "Commands/FamilyUpdateCommand.h"
+#include "Commands/FamilyValidateCommand.h"
+=======
 #include "Commands/LegendsCommand.h"
 #include "Commands/MappingsCommand.h"
+>>>>>>> /tmp/b/m.mine
 #include "Commands/ProjectsCommand.h"
 #include "Commands/PropertiesCommand.h"
 #include "Commands/SearchCommand.h"
@@ -36,6 +48,15 @@ Commands MakeCommands()
     commands.push_back(std::make_unique<MappingsCommand>());
     commands.push_back(std::make_unique<ProjectsCommand>());
     commands.push_back(std::make_unique<ExistsCommand>());
+    commands.push_back(std::make_unique<FamilyShowCommand>());
+    commands.push_back(std::make_unique<FamilyCheckCommand>());
+    commands.push_back(std::make_unique<FamilyUpdateCommand>());
+    commands.push_back(std::make_unique<FamilyDrawCommand>());
+    commands.push_back(std::make_unique<FamilyRenderCommand>());
+    commands.push_back(std::make_unique<FamilyExportCommand>());
+    commands.push_back(std::make_unique<FamilyNewCommand>());
+    commands.push_back(std::make_unique<FamilyValidateCommand>());
+    commands.push_back(std::make_unique<FamilySheetCommand>());
     commands.push_back(std::make_unique<EnvCommand>());
     commands.push_back(std::make_unique<CacheCommand>());
     commands.push_back(std::make_unique<DoctorCommand>());

@@ -42,7 +42,7 @@ std::string OptionTable(const std::vector<OptionSpec>& options)
         return std::string();
     std::string table = "\n| option | meaning |\n|---|---|\n";
     for (const OptionSpec& spec : options)
-        table += "| " + OptionLabel(spec) + " | " + InTable(spec.help) + ChoiceText(spec) + " |\n";
+        table += "| " + InTable(OptionLabel(spec)) + " | " + InTable(spec.help) + ChoiceText(spec) + " |\n";
     return table;
 }
 

@@ -79,6 +79,8 @@ ExitCode RunCommand(Command& command, const GlobalOptions& options)
 
 ExitCode Act(const Commands& commands, const ParsedCommandLine& parsed, const GlobalOptions& options)
 {
+    if (parsed.global.wantsHelp && !parsed.group.empty())
+        return Print(GroupHelp(commands, parsed.group));
     if (parsed.global.wantsHelp)
         return Print(parsed.command == nullptr ? OverviewHelp(commands) : CommandHelp(*parsed.command));
     if (parsed.global.wantsVersion && options.json) {

@@ -56,6 +56,10 @@
         <source>The option %1 needs a value. If "%2" is the value, join them with an equals sign.</source>
         <translation>选项 %1 需要一个值。如果“%2”就是这个值，请用等号连接。</translation>
     </message>
+    <message>
+        <source>The command "%1" needs one of these words behind it: %2.</source>
+        <translation>命令“%1”之后需要以下词之一：%2。</translation>
+    </message>
 </context>
 <context>
     <name>CommandTable</name>
@@ -408,6 +412,274 @@
         <translation>只放入缓存，并说明其位置</translation>
     </message>
     <message>
+<<<<<<< nuq/translations/Nuq_zh_CN.ts
+        <source>Check whether specifications yield a geometry, and say why not</source>
+        <translation>检查规格能否建模，不能时说明原因</translation>
+    </message>
+    <message>
+        <source>A copy of the family file is asked, which is removed afterwards. Ends with exit code 7 when a specification yields no geometry or a file cannot be used.</source>
+        <translation>检查的是族文件的副本，之后会删除副本。有规格不能建模或文件不可用时，退出码为 7。</translation>
+    </message>
+    <message>
+        <source>The family file, or a folder with family files</source>
+        <translation>族文件，或含有族文件的文件夹</translation>
+    </message>
+    <message>
+        <source>A type of the family, or a JSON file with specifications; by default all types of the family</source>
+        <translation>族的一个类型，或含有规格的 JSON 文件；默认为族的全部类型</translation>
+    </message>
+    <message>
+        <source>all types of a family</source>
+        <translation>一个族的全部类型</translation>
+    </message>
+    <message>
+        <source>one of them, with its values</source>
+        <translation>其中之一及其各值</translation>
+    </message>
+    <message>
+        <source>what the catalogue offers</source>
+        <translation>目录提供的规格</translation>
+    </message>
+    <message>
+        <source>Put the pictures or drawings of many families on one sheet</source>
+        <translation>把多个族的图片或图纸排成一张总图</translation>
+    </message>
+    <message>
+        <source>Of each family the first type is shown. With --files picture files of a name are put on the sheet, for example the thumbnails of a library.</source>
+        <translation>每个族显示其首个类型。使用 --files 时，把某个名称的图片文件排成总图，例如库的缩略图。</translation>
+    </message>
+    <message>
+        <source>A folder with family files, or one such file</source>
+        <translation>含有族文件的文件夹，或一个族文件</translation>
+    </message>
+    <message>
+        <source>The file to write, *.png</source>
+        <translation>要写入的文件，*.png</translation>
+    </message>
+    <message>
+        <source>Shaded pictures, or three drawings of each family; by default pictures</source>
+        <translation>着色图片，或每个族的三张图纸；默认为图片</translation>
+    </message>
+    <message>
+        <source>Picture files of this name below the folder instead, for example 128.png</source>
+        <translation>改用文件夹下此名称的图片文件，例如 128.png</translation>
+    </message>
+    <message>
+        <source>Pictures side by side, 1 to 100; by default 8, for drawings 6</source>
+        <translation>每行图片数，1 到 100；默认 8，图纸为 6</translation>
+    </message>
+    <message>
+        <source>Side of each picture, 16 to 512; by default 128</source>
+        <translation>每张图片的边长，16 到 512；默认 128</translation>
+    </message>
+    <message>
+        <source>On dark ground</source>
+        <translation>深色背景</translation>
+    </message>
+    <message>
+        <source>all families of a folder</source>
+        <translation>文件夹中的全部族</translation>
+    </message>
+    <message>
+        <source>their drawings</source>
+        <translation>它们的图纸</translation>
+    </message>
+    <message>
+        <source>the thumbnails of a library</source>
+        <translation>一个库的缩略图</translation>
+    </message>
+    <message>
+        <source>Draw a view of a family with hidden lines, centre lines and connectors</source>
+        <translation>绘制族的一个视图，含隐藏线、中心线和接口</translation>
+    </message>
+    <message>
+        <source>The ending of the output says the kind: .svg for a drawing in millimetres, .png for a picture with transparent background.</source>
+        <translation>输出文件的后缀决定类型：.svg 为以毫米为单位的图纸，.png 为透明背景的图片。</translation>
+    </message>
+    <message>
+        <source>The family file</source>
+        <translation>族文件</translation>
+    </message>
+    <message>
+        <source>The file to write, *.svg or *.png</source>
+        <translation>要写入的文件，*.svg 或 *.png</translation>
+    </message>
+    <message>
+        <source>From above, from the front or from the right; by default plan</source>
+        <translation>从上方、前方或右方观察；默认为平面图</translation>
+    </message>
+    <message>
+        <source>The type that is drawn; by default the first</source>
+        <translation>要绘制的类型；默认为首个类型</translation>
+    </message>
+    <message>
+        <source>Side of a picture, 16 to 4096; by default 512</source>
+        <translation>图片的边长，16 到 4096；默认 512</translation>
+    </message>
+    <message>
+        <source>the front as a drawing</source>
+        <translation>正面的图纸</translation>
+    </message>
+    <message>
+        <source>another type from above as a picture</source>
+        <translation>另一个类型的俯视图片</translation>
+    </message>
+    <message>
+        <source>Show what a family file holds: parameters, types, geometry, connectors</source>
+        <translation>显示族文件的内容：参数、类型、几何模型、接口</translation>
+    </message>
+    <message>
+        <source>The values are those of one type. Parameters with a formula are computed from the others. No geometry is built.</source>
+        <translation>显示的是一个类型的值。带公式的参数由其他参数计算得出。不会建模。</translation>
+    </message>
+    <message>
+        <source>The type whose values are shown; by default the first</source>
+        <translation>显示其值的类型；默认为首个类型</translation>
+    </message>
+    <message>
+        <source>the values of the first type</source>
+        <translation>首个类型的值</translation>
+    </message>
+    <message>
+        <source>those of another type, for a script</source>
+        <translation>另一个类型的值，供脚本使用</translation>
+    </message>
+    <message>
+        <source>Make a family file from its description: parameters, types, recipe</source>
+        <translation>由描述（参数、类型、建模步骤）生成族文件</translation>
+    </message>
+    <message>
+        <source>The description is JSON. Formulas, recipe and every type are checked, the geometry is built, pictures and drawings are made. docs/family-files.md describes all of it and has a tutorial.</source>
+        <translation>描述是 JSON。会检查公式、建模步骤和每个类型，进行建模，并生成图片和图纸。docs/family-files.md 有完整说明和教程。</translation>
+    </message>
+    <message>
+        <source>The description, *.json</source>
+        <translation>描述，*.json</translation>
+    </message>
+    <message>
+        <source>The family file to write, *.nuqfamily</source>
+        <translation>要写入的族文件，*.nuqfamily</translation>
+    </message>
+    <message>
+        <source>Replace a file that is there already</source>
+        <translation>替换已有的文件</translation>
+    </message>
+    <message>
+        <source>a new family</source>
+        <translation>一个新的族</translation>
+    </message>
+    <message>
+        <source>Compute the driven parameters of a specification, before and after</source>
+        <translation>计算规格中被驱动的参数，显示前后的值</translation>
+    </message>
+    <message>
+        <source>The family computes them from the values of the specification; what changes is marked. The family file stays as it is.</source>
+        <translation>由族根据规格的值计算；有变化的会标出。族文件保持不变。</translation>
+    </message>
+    <message>
+        <source>A type of the family, or a JSON file with one specification; by default the first type</source>
+        <translation>族的一个类型，或含有一个规格的 JSON 文件；默认为首个类型</translation>
+    </message>
+    <message>
+        <source>Write the computed specification there, as JSON</source>
+        <translation>把计算后的规格以 JSON 写到该文件</translation>
+    </message>
+    <message>
+        <source>the values before and after</source>
+        <translation>计算前后的值</translation>
+    </message>
+    <message>
+        <source>and the specification as it is then</source>
+        <translation>并写出计算后的规格</translation>
+    </message>
+    <message>
+        <source>Check family files through and through</source>
+        <translation>彻底检查族文件</translation>
+    </message>
+    <message>
+        <source>The container, the manifest, formulas, the values of every type, the recipe, the geometry of every type, pictures and drawings. Ends with exit code 7 when a check found a fault.</source>
+        <translation>检查容器、清单、公式、每个类型的值、建模步骤、每个类型的几何模型、图片和图纸。发现错误时退出码为 7。</translation>
+    </message>
+    <message>
+        <source>Build no geometry</source>
+        <translation>不建模</translation>
+    </message>
+    <message>
+        <source>one file</source>
+        <translation>一个文件</translation>
+    </message>
+    <message>
+        <source>all files of a folder, without their geometry</source>
+        <translation>文件夹中的全部文件，不建模</translation>
+    </message>
+    <message>
+        <source>Make a shaded picture of a family</source>
+        <translation>生成族的着色图片</translation>
+    </message>
+    <message>
+        <source>A PNG with transparent background, the same on every machine; no graphics card or display is needed.</source>
+        <translation>透明背景的 PNG，在每台计算机上都相同；不需要显卡或显示器。</translation>
+    </message>
+    <message>
+        <source>The type that is shown; by default the first</source>
+        <translation>要显示的类型；默认为首个类型</translation>
+    </message>
+    <message>
+        <source>Side of the picture, 16 to 4096; by default 512</source>
+        <translation>图片的边长，16 到 4096；默认 512</translation>
+    </message>
+    <message>
+        <source>the first type</source>
+        <translation>首个类型</translation>
+    </message>
+    <message>
+        <source>another type as a thumbnail</source>
+        <translation>另一个类型的缩略图</translation>
+    </message>
+    <message>
+        <source>Write the geometry of a family for other programs: STEP, glTF, STL</source>
+        <translation>为其他程序写出族的几何模型：STEP、glTF、STL</translation>
+    </message>
+    <message>
+        <source>Several kinds can be written at once. STEP holds the exact body in millimetres, the others its surface as triangles.</source>
+        <translation>可以同时写出多种格式。STEP 是以毫米为单位的精确实体，其他格式是三角面。</translation>
+    </message>
+    <message>
+        <source>Write a STEP file</source>
+        <translation>写出 STEP 文件</translation>
+    </message>
+    <message>
+        <source>With --step: its application protocol; by default ap214, which every program reads</source>
+        <translation>与 --step 一起使用：其应用协议；默认为各程序都能读取的 ap214</translation>
+    </message>
+    <message>
+        <source>Write a glTF file</source>
+        <translation>写出 glTF 文件</translation>
+    </message>
+    <message>
+        <source>Write an STL file</source>
+        <translation>写出 STL 文件</translation>
+    </message>
+    <message>
+        <source>The type that is written; by default the first</source>
+        <translation>要写出的类型；默认为首个类型</translation>
+    </message>
+    <message>
+        <source>for a CAD program</source>
+        <translation>供 CAD 程序使用</translation>
+    </message>
+    <message>
+        <source>for viewers and printers</source>
+        <translation>供查看器和打印机使用</translation>
+    </message>
+    <message>
+        <source>Work with family files: look, check, compute, draw, export, make</source>
+        <translation>处理族文件：查看、检查、计算、绘图、导出、生成</translation>
+    </message>
+    <message>
+        <source>A family file holds the parameters, types and parametric geometry of components that differ in size alone. None of these commands changes a family file that it reads.</source>
+        <translation>族文件包含只在尺寸上不同的构件的参数、类型和参数化几何模型。这些命令都不会改动所读取的族文件。</translation>
+=======
         <source>Show the category tree of the library on this machine</source>
         <translation>显示本机组件库的分类树</translation>
     </message>
@@ -490,6 +762,7 @@
     <message>
         <source>codes and editor ids, for a script</source>
         <translation>编码和编辑器编号，供脚本使用</translation>
+>>>>>>> /tmp/b/m.mine
     </message>
 </context>
 <context>
@@ -556,6 +829,10 @@
     <message>
         <source>Options</source>
         <translation>选项</translation>
+    </message>
+    <message>
+        <source>"nuq %1 COMMAND --help" shows the options of a command.</source>
+        <translation>“nuq %1 COMMAND --help”显示一个命令的选项。</translation>
     </message>
 </context>
 <context>
@@ -789,6 +1066,134 @@
         <translation>无法写入文件“%1”：%2。</translation>
     </message>
     <message>
+<<<<<<< nuq/translations/Nuq_zh_CN.ts
+        <source>There are no family files (*.nuqfamily) in the folder %1.</source>
+        <translation>文件夹 %1 中没有族文件（*.nuqfamily）。</translation>
+    </message>
+    <message>
+        <source>whole, with %1 entries</source>
+        <translation>完整，共 %1 个条目</translation>
+    </message>
+    <message>
+        <source>%1 driven parameters</source>
+        <translation>%1 个驱动得出的参数</translation>
+    </message>
+    <message>
+        <source>and %1 more types</source>
+        <translation>以及另外 %1 个类型</translation>
+    </message>
+    <message>
+        <source>%1 types with possible values</source>
+        <translation>%1 个类型的值均有效</translation>
+    </message>
+    <message>
+        <source>can be followed</source>
+        <translation>可以执行</translation>
+    </message>
+    <message>
+        <source>%1 different bodies, all sound</source>
+        <translation>%1 个不同的实体，均有效</translation>
+    </message>
+    <message>
+        <source>The file does not say what came out when it was built.</source>
+        <translation>文件没有记录建模结果。</translation>
+    </message>
+    <message>
+        <source>The volume was %1 mm3 when the file was written and is %2 mm3 now.</source>
+        <translation>写入文件时体积为 %1 mm3，现在为 %2 mm3。</translation>
+    </message>
+    <message>
+        <source>the volume is the recorded one</source>
+        <translation>体积与记录一致</translation>
+    </message>
+    <message>
+        <source>The picture %1 is missing or not of its size.</source>
+        <translation>图片 %1 缺失或尺寸不符。</translation>
+    </message>
+    <message>
+        <source>The drawing %1 is missing or damaged.</source>
+        <translation>图纸 %1 缺失或已损坏。</translation>
+    </message>
+    <message>
+        <source>pictures in four sizes and three drawings</source>
+        <translation>四种尺寸的图片和三张图纸</translation>
+    </message>
+    <message>
+        <source>The family has no type "%1".</source>
+        <translation>该族没有类型“%1”。</translation>
+    </message>
+    <message>
+        <source>Its types: %1</source>
+        <translation>它的类型：%1</translation>
+    </message>
+    <message>
+        <source>The family has no type "%1", and there is no file of that name.</source>
+        <translation>该族没有类型“%1”，也没有这个名称的文件。</translation>
+    </message>
+    <message>
+        <source>"nuq family show" lists the types.</source>
+        <translation>“nuq family show”会列出各类型。</translation>
+    </message>
+    <message>
+        <source>Building the geometry ... %1 %</source>
+        <translation>正在建模…… %1 %</translation>
+    </message>
+    <message>
+        <source>Building the geometry of %1 ... %2 %</source>
+        <translation>正在为 %1 建模…… %2 %</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>无法写入文件 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Specifications that yield a geometry: %1 of %2.</source>
+        <translation>可以建模的规格：%1 / %2。</translation>
+    </message>
+    <message>
+        <source>The command "family sheet" needs --output with a file that ends in .png.</source>
+        <translation>命令“family sheet”需要 --output，且文件名以 .png 结尾。</translation>
+    </message>
+    <message>
+        <source>--files and --content cannot be used together.</source>
+        <translation>--files 和 --content 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>There are no files %1 in the folder %2.</source>
+        <translation>文件夹 %2 中没有文件 %1。</translation>
+    </message>
+    <message>
+        <source>The command "family draw" needs --output with a file that ends in .svg or .png.</source>
+        <translation>命令“family draw”需要 --output，且文件名以 .svg 或 .png 结尾。</translation>
+    </message>
+    <message>
+        <source>The command "family new" needs --output with a file that ends in .nuqfamily.</source>
+        <translation>命令“family new”需要 --output，且文件名以 .nuqfamily 结尾。</translation>
+    </message>
+    <message>
+        <source>The description %1 cannot be read: %2.</source>
+        <translation>无法读取描述 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The file %1 is there already.</source>
+        <translation>文件 %1 已存在。</translation>
+    </message>
+    <message>
+        <source>Choose another name, or replace it with --force.</source>
+        <translation>请换一个名称，或用 --force 替换它。</translation>
+    </message>
+    <message>
+        <source>The file %1 holds %2 specifications; only one can be computed.</source>
+        <translation>文件 %1 含有 %2 个规格；一次只能计算一个。</translation>
+    </message>
+    <message>
+        <source>The command "family render" needs --output with a file that ends in .png.</source>
+        <translation>命令“family render”需要 --output，且文件名以 .png 结尾。</translation>
+    </message>
+    <message>
+        <source>The command "family export" needs --step, --gltf or --stl.</source>
+        <translation>命令“family export”需要 --step、--gltf 或 --stl。</translation>
+=======
         <source>The environment variable NUQ_LIBRARY or the setting "library" names the folder of the library.</source>
         <translation>环境变量 NUQ_LIBRARY 或设置项“library”指定组件库所在文件夹。</translation>
     </message>
@@ -811,6 +1216,7 @@
     <message>
         <source>The category has no legends; end categories have them.</source>
         <translation>该分类没有图例；末级分类才有。</translation>
+>>>>>>> /tmp/b/m.mine
     </message>
 </context>
 <context>
@@ -1035,6 +1441,94 @@
         <translation>文件</translation>
     </message>
     <message>
+<<<<<<< nuq/translations/Nuq_zh_CN.ts
+        <source>WANTED</source>
+        <translation>要求值</translation>
+    </message>
+    <message>
+        <source>FIRST TYPE</source>
+        <translation>首个类型</translation>
+    </message>
+    <message>
+        <source>NOTE</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>computed</source>
+        <translation>计算得出</translation>
+    </message>
+    <message>
+        <source>yields a geometry</source>
+        <translation>可以建模</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>SPECIFICATION</source>
+        <translation>规格</translation>
+    </message>
+    <message>
+        <source>not built yet</source>
+        <translation>尚未建模</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>几何模型</translation>
+    </message>
+    <message>
+        <source>Connectors</source>
+        <translation>接口</translation>
+    </message>
+    <message>
+        <source>POSSIBLE</source>
+        <translation>允许值</translation>
+    </message>
+    <message>
+        <source>FORMULA</source>
+        <translation>公式</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>BEFORE</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>AFTER</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>formulas</source>
+        <translation>公式</translation>
+    </message>
+    <message>
+        <source>types</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>recipe</source>
+        <translation>建模步骤</translation>
+    </message>
+    <message>
+        <source>geometry</source>
+        <translation>几何模型</translation>
+    </message>
+    <message>
+        <source>record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <translation>图片</translation>
+=======
         <source>KIND</source>
         <translation>种类</translation>
     </message>
@@ -1089,6 +1583,7 @@
     <message>
         <source>component</source>
         <translation>组件</translation>
+>>>>>>> /tmp/b/m.mine
     </message>
 </context>
 </TS>

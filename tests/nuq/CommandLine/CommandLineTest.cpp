@@ -1,9 +1,13 @@
 #include "CommandLine/CommandLineParser.h"
+
+#include "CommandLine/CommandGroups.h"
 #include "CommandLine/Suggestion.h"
 #include "CommandLine/UsageError.h"
 #include "Commands/CommandList.h"
 
 #include <gtest/gtest.h>
+#include <iterator>
+#include <sstream>
 
 namespace nuq {
 namespace {
@@ -19,6 +23,12 @@ std::string Complaint(const std::vector<std::string>& arguments)
     }
 }
 
+std::vector<std::string> WordsOf(const std::string& name)
+{
+    std::istringstream stream(name);
+    return {std::istream_iterator<std::string>(stream), std::istream_iterator<std::string>()};
+}
+
 TEST(CommandLine, SaysWhatIsWrong)
 {
     const std::vector<std::pair<std::vector<std::string>, const char*>> rows = {
@@ -27,6 +37,33 @@ TEST(CommandLine, SaysWhatIsWrong)
         {{"xyzzy"}, "There is no command \"xyzzy\"."},
         {{"xyzzy", "--foo"}, "There is no command \"xyzzy\"."},
         {{""}, "There is no command \"\"."},
+        {{"famly"}, "There is no command \"famly\". Did you mean \"family\"?"},
+        {{"family"}, "The command \"family\" needs one of these words behind it: show, check, update, draw, render, "
+                     "export, new, validate, sheet."},
+        {{"family", "--json"}, "The command \"family\" needs one of these words behind it: show, check, update, draw, "
+                               "render, export, new, validate, sheet."},
+        {{"family", "chek"}, "There is no command \"family chek\". Did you mean \"family check\"?"},
+        {{"family", "doctor"}, "There is no command \"family doctor\"."},
+        {{"family", "show"}, "The command \"family show\" needs FILE."},
+        {{"family", "show", ""}, "FILE must not be empty."},
+        {{"family", "show", "a", "b"}, "The command \"family show\" takes no further argument \"b\"."},
+        {{"family", "show", "a", "--tpe"}, "There is no option \"--tpe\". Did you mean \"--type\"?"},
+        {{"family", "--type", "x"}, "There is no command \"family x\"."},
+        {{"show", "a"}, "There is no command \"show\"."},
+        {{"family", "draw", "a"}, "The command \"family draw\" needs --output with a file that ends in .svg or .png."},
+        {{"family", "draw", "a", "-o", "a.jpg"},
+            "The command \"family draw\" needs --output with a file that ends in .svg or .png."},
+        {{"family", "draw", "a", "-o", "a.svg", "--view", "top"},
+            "The value of --view has to be one of plan, elevation, profile, but it is \"top\"."},
+        {{"family", "draw", "a", "-o", "a.png", "--size", "4097"},
+            "The value of --size has to be a whole number from 16 to 4096, but it is \"4097\"."},
+        {{"family", "render", "a", "-o", "a.svg"},
+            "The command \"family render\" needs --output with a file that ends in .png."},
+        {{"family", "export", "a"}, "The command \"family export\" needs --step, --gltf or --stl."},
+        {{"family", "new", "a.json"}, "The command \"family new\" needs --output with a file that ends in .nuqfamily."},
+        {{"family", "sheet", "a"}, "The command \"family sheet\" needs --output with a file that ends in .png."},
+        {{"family", "sheet", "a", "-o", "a.png", "--files", "1.png", "--content", "drawings"},
+            "--files and --content cannot be used together."},
         {{"--jsn"}, "There is no option \"--jsn\". Did you mean \"--json\"?"},
         {{"components", "--keywrd=x"}, "There is no option \"--keywrd\". Did you mean \"--keyword\"?"},
         {{"env", "-z"}, "There is no option \"-z\"."},
@@ -113,8 +150,43 @@ TEST(CommandLine, BindsEveryOptionOfEveryTable)
 {
     // ParseCommandLine throws std::logic_error for a table entry without a field.
     for (const auto& command : MakeCommands()) {
-        EXPECT_NO_THROW(ParseCommandLine(MakeCommands(), {command->Spec().name, "--help"}));
+        std::vector<std::string> words = WordsOf(command->Spec().name);
+        words.emplace_back("--help");
+        EXPECT_NO_THROW(ParseCommandLine(MakeCommands(), words)) << command->Spec().name;
         EXPECT_FALSE(command->Spec().examples.empty()) << command->Spec().name;
+    }
+}
+
+TEST(CommandLine, FindsCommandsOfTwoWords)
+{
+    const Commands commands = MakeCommands();
+    const auto called = [&commands](const std::vector<std::string>& arguments) {
+        const ParsedCommandLine parsed = ParseCommandLine(commands, arguments);
+        return parsed.command == nullptr ? "group " + parsed.group : std::string(parsed.command->Spec().name);
+    };
+    EXPECT_EQ(called({"family", "show", "a.nuqfamily"}), "family show");
+    EXPECT_EQ(called({"--json", "family", "--quiet", "show", "a.nuqfamily", "--lang", "zh"}), "family show");
+    // A word that is a command elsewhere is an argument here.
+    EXPECT_EQ(called({"family", "show", "doctor"}), "family show");
+    EXPECT_EQ(called({"family", "show", "check"}), "family show");
+    EXPECT_EQ(called({"family", "--help"}), "group family");
+    EXPECT_EQ(called({"--help", "family"}), "group family");
+    EXPECT_EQ(called({"family", "show", "--help"}), "family show");
+}
+
+TEST(CommandLine, TakesGlobalOptionsAnywhereInACommandOfTwoWords)
+{
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--json", "family", "show", "f"},
+             {"family", "--json", "show", "f"}, {"family", "show", "--json", "f"}, {"family", "show", "f", "--json"}}) {
+        EXPECT_TRUE(ParseCommandLine(MakeCommands(), arguments).global.json);
+    }
+}
+
+TEST(CommandLine, EveryGroupIsDescribed)
+{
+    for (const auto& command : MakeCommands()) {
+        const std::string group = GroupNameOf(*command);
+        EXPECT_TRUE(group.empty() || FindGroup(group) != nullptr) << group;
     }
 }
 

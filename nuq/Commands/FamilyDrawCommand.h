@@ -1,0 +1,31 @@
+#pragma once
+
+#include "CommandLine/Command.h"
+
+#include <QString>
+
+namespace nuq {
+
+/** Draws a view of a family. */
+class FamilyDrawCommand final : public Command
+{
+public:
+    const CommandSpec& Spec() const override;
+    void Bind(OptionBinder& binder) override;
+    void Check() const override;
+    ExitCode Run(Session& session) override;
+
+private:
+    struct Options
+    {
+        QString file;
+        QString type;
+        QString view = QStringLiteral("plan");
+        QString output;
+        int size = 512;
+    };
+
+    Options m_options;
+};
+
+} // namespace nuq
