@@ -1,5 +1,6 @@
 #include "Records/ICategory.h"
 #include "support/CatalogueFixture.h"
+#include "support/NamedCase.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -283,17 +284,23 @@ TEST_F(PackedRequestTest, TakesAnswersCompressed)
     EXPECT_EQ(Accepted(0), "gzip, deflate");
 }
 
-class CutRequestTest : public PackedRequestTest, public ::testing::WithParamInterface<CutPoint>
+struct CutRow : testsupport::NamedCase
+{
+    CutPoint point;
+};
+
+class CutRequestTest : public PackedRequestTest, public ::testing::WithParamInterface<CutRow>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    WithinAndBeforeTheBody, CutRequestTest, ::testing::Values(CutPoint::WithinBody, CutPoint::AfterHeaders));
+INSTANTIATE_TEST_SUITE_P(Cut, CutRequestTest,
+    ::testing::Values(CutRow{"WithinTheBody", CutPoint::WithinBody}, CutRow{"BeforeTheBody", CutPoint::AfterHeaders}),
+    testsupport::RowName());
 
 // How often the server is asked is no measure here: Qt sends a request again whose connection has just gone.
 TEST_P(CutRequestTest, AsksPlainlyWhereACutMayHideAndGoesOn)
 {
-    server.On(kProjects, Packed().CutAt(GetParam()));
+    server.On(kProjects, Packed().CutAt(GetParam().point));
     server.On(kProjects, ScriptedResponse::Json(kGood));
     EXPECT_EQ(Ended()->Result().size(), 1u);
     EXPECT_EQ(Accepted(0), "gzip, deflate");
@@ -302,8 +309,8 @@ TEST_P(CutRequestTest, AsksPlainlyWhereACutMayHideAndGoesOn)
 
 TEST_P(CutRequestTest, NamesACutForWhatItIs)
 {
-    server.On(kProjects, Packed().CutAt(GetParam()));
-    server.On(kProjects, ScriptedResponse::Json(kGood).CutAt(GetParam()));
+    server.On(kProjects, Packed().CutAt(GetParam().point));
+    server.On(kProjects, ScriptedResponse::Json(kGood).CutAt(GetParam().point));
     const auto request = Ended();
     EXPECT_EQ(ErrorId(request->Error().code).toStdString(), "network.closed");
     EXPECT_EQ(request->Error().tries, 3);
