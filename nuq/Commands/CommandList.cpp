@@ -7,7 +7,6 @@
 #include "Commands/DoctorCommand.h"
 #include "Commands/EnvCommand.h"
 #include "Commands/ExistsCommand.h"
-<<<<<<< nuq/Commands/CommandList.cpp
 #include "Commands/FamilyCheckCommand.h"
 #include "Commands/FamilyDrawCommand.h"
 #include "Commands/FamilyExportCommand.h"
@@ -17,10 +16,8 @@
 #include "Commands/FamilyShowCommand.h"
 #include "Commands/FamilyUpdateCommand.h"
 #include "Commands/FamilyValidateCommand.h"
-=======
 #include "Commands/LegendsCommand.h"
 #include "Commands/MappingsCommand.h"
->>>>>>> /tmp/b/m.mine
 #include "Commands/ProjectsCommand.h"
 #include "Commands/PropertiesCommand.h"
 #include "Commands/SearchCommand.h"

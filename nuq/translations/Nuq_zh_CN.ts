@@ -412,7 +412,6 @@
         <translation>只放入缓存，并说明其位置</translation>
     </message>
     <message>
-<<<<<<< nuq/translations/Nuq_zh_CN.ts
         <source>Check whether specifications yield a geometry, and say why not</source>
         <translation>检查规格能否建模，不能时说明原因</translation>
     </message>
@@ -679,7 +678,8 @@
     <message>
         <source>A family file holds the parameters, types and parametric geometry of components that differ in size alone. None of these commands changes a family file that it reads.</source>
         <translation>族文件包含只在尺寸上不同的构件的参数、类型和参数化几何模型。这些命令都不会改动所读取的族文件。</translation>
-=======
+    </message>
+    <message>
         <source>Show the category tree of the library on this machine</source>
         <translation>显示本机组件库的分类树</translation>
     </message>
@@ -762,7 +762,6 @@
     <message>
         <source>codes and editor ids, for a script</source>
         <translation>编码和编辑器编号，供脚本使用</translation>
->>>>>>> /tmp/b/m.mine
     </message>
 </context>
 <context>
@@ -1066,7 +1065,6 @@
         <translation>无法写入文件“%1”：%2。</translation>
     </message>
     <message>
-<<<<<<< nuq/translations/Nuq_zh_CN.ts
         <source>There are no family files (*.nuqfamily) in the folder %1.</source>
         <translation>文件夹 %1 中没有族文件（*.nuqfamily）。</translation>
     </message>
@@ -1193,7 +1191,8 @@
     <message>
         <source>The command "family export" needs --step, --gltf or --stl.</source>
         <translation>命令“family export”需要 --step、--gltf 或 --stl。</translation>
-=======
+    </message>
+    <message>
         <source>The environment variable NUQ_LIBRARY or the setting "library" names the folder of the library.</source>
         <translation>环境变量 NUQ_LIBRARY 或设置项“library”指定组件库所在文件夹。</translation>
     </message>
@@ -1216,7 +1215,6 @@
     <message>
         <source>The category has no legends; end categories have them.</source>
         <translation>该分类没有图例；末级分类才有。</translation>
->>>>>>> /tmp/b/m.mine
     </message>
 </context>
 <context>
@@ -1441,7 +1439,6 @@
         <translation>文件</translation>
     </message>
     <message>
-<<<<<<< nuq/translations/Nuq_zh_CN.ts
         <source>WANTED</source>
         <translation>要求值</translation>
     </message>
@@ -1528,7 +1525,8 @@
     <message>
         <source>pictures</source>
         <translation>图片</translation>
-=======
+    </message>
+    <message>
         <source>KIND</source>
         <translation>种类</translation>
     </message>
@@ -1583,7 +1581,6 @@
     <message>
         <source>component</source>
         <translation>组件</translation>
->>>>>>> /tmp/b/m.mine
     </message>
 </context>
 </TS>

@@ -37,20 +37,8 @@ complete -c nuq -n '__fish_seen_subcommand_from specifications' -l type -s t -r 
 complete -c nuq -n '__fish_seen_subcommand_from specifications' -l project -s p -r -d 'The component is one of this project\'s library'
 complete -c nuq -n '__fish_use_subcommand' -a properties -d 'Show the properties that components of a category have'
 complete -c nuq -n '__fish_seen_subcommand_from properties' -l cloud -d 'Take the property template of the cloud'
-<<<<<<< nuq/share/fish/vendor_completions.d/nuq.fish
 complete -c nuq -n '__fish_use_subcommand' -a projects -d 'List the collaboration projects'
 complete -c nuq -n '__fish_use_subcommand' -a exists -d 'Tell in which projects a public component is already used'
-=======
-complete -c nuq -n __fish_use_subcommand -a tree -d 'Show the category tree of the library on this machine'
-complete -c nuq -n __fish_use_subcommand -a search -d 'Search the library on this machine'
-complete -c nuq -n '__fish_seen_subcommand_from search' -l limit -s n -r -d 'List this many at most; 20 by default'
-complete -c nuq -n __fish_use_subcommand -a legends -d 'List the legends of a category, its placeholder drawings'
-complete -c nuq -n '__fish_seen_subcommand_from legends' -l view -r -f -a 'plan elevation profile' -d 'Only the legends of this view; by default of all three'
-complete -c nuq -n '__fish_seen_subcommand_from legends' -l cloud -d 'Take the legends of the cloud'
-complete -c nuq -n __fish_use_subcommand -a mappings -d 'List how the cloud\'s categories map onto the component editor\'s'
-complete -c nuq -n __fish_use_subcommand -a projects -d 'List the collaboration projects'
-complete -c nuq -n __fish_use_subcommand -a exists -d 'Tell in which projects a public component is already used'
->>>>>>> /tmp/b/m.mine
 complete -c nuq -n '__fish_seen_subcommand_from exists' -l project -s p -r -d 'Ask only about this project; by default about all'
 complete -c nuq -n '__fish_use_subcommand' -a family -d 'Work with family files: look, check, compute, draw, export, make'
 complete -c nuq -n '__fish_seen_subcommand_from family; and not __fish_seen_subcommand_from show check update draw render export new validate sheet' -a show -d 'Show what a family file holds: parameters, types, geometry, connectors'
