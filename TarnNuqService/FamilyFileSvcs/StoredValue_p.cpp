@@ -37,10 +37,22 @@ bool IsYes(const std::wstring& text)
     return word == QString::fromUtf8("\xCA\xC7") || word == QLatin1String("true") || word.toInt(nullptr, 10) != 0;
 }
 
+/// Made ready once: the last copy of an expression may allocate in its destructor, and without memory that ends the
+/// process.
+const QRegExp& TrailingZeros()
+{
+    static const QRegExp expression = [] {
+        QRegExp made(QStringLiteral("(\\.){0,1}0+$"));
+        made.isValid();
+        return made;
+    }();
+    return expression;
+}
+
 std::wstring NumberText(double number)
 {
     QString text = QStringLiteral("%1").arg(number, 0, 'f', -1);
-    return text.replace(QRegExp(QStringLiteral("(\\.){0,1}0+$")), QString()).toStdWString();
+    return text.replace(TrailingZeros(), QString()).toStdWString();
 }
 
 } // namespace
