@@ -17,7 +17,9 @@ if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
         # Without these a second checkout or build folder never finds what the first one compiled.
         set(CMAKE_CXX_COMPILER_LAUNCHER
             "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
-            CCACHE_SLOPPINESS=pch_defines,time_macros "${TARNNUQ_CCACHE}")
+            CCACHE_SLOPPINESS=pch_defines,time_macros
+            # What a source includes is read from the compiler's own list: a first build is spared a preprocessor run.
+            CCACHE_DEPEND=1 "${TARNNUQ_CCACHE}")
     endif()
 endif()
 
