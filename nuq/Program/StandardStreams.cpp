@@ -2,8 +2,8 @@
 
 #ifndef _WIN32
 #include <fcntl.h>
-#include <unistd.h>
 #include <initializer_list>
+#include <unistd.h>
 #endif
 
 namespace nuq {
